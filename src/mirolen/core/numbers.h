@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+
+#include "mirolen/core/RunTimeError.h"
+
+namespace mirolen {
+
+/// A colour value: 0x00BBGGRR, or 0x80000000 plus the index of a system colour.
+using Color = std::uint32_t;
+
+/// Rounds to a whole number, ties to the even one, whatever rounding mode the host has set.
+double round_half_even(double value);
+
+/// round_half_even into 16 or 32 bits. @throws OverflowError where the result does not fit (NaN never does).
+std::int16_t to_int16(double value);
+std::int32_t to_int32(double value);
+
+/// The 32-bit colour that a Double carries: rounded, modulo 2^32. @throws InvalidArgument if not finite.
+Color to_color(double value);
+
+/// The largest whole number that is not above value.
+inline double Int(double value) { return std::floor(value); }
+
+/// The value of an arithmetic expression. @throws OverflowError if it became infinite or NaN on the way.
+inline double checked(double value) {
+  if (!std::isfinite(value)) throw OverflowError("overflow");
+  return value;
+}
+
+/// a / b. @throws DivisionByZero, OverflowError.
+inline double divide(double a, double b) {
+  if (b == 0) throw DivisionByZero();
+  return checked(a / b);
+}
+
+/// @throws InvalidArgument for a negative number.
+inline double square_root(double value) {
+  if (value < 0) throw InvalidArgument("square root of a negative number");
+  return std::sqrt(checked(value));
+}
+
+}  // namespace mirolen

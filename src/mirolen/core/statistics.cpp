@@ -1,0 +1,87 @@
+#include <cmath>
+
+#include "mirolen/core/wafer.h"
+
+namespace mirolen {
+namespace {
+
+constexpr double sites_worth_an_index = 10;
+
+}  // namespace
+
+void wafer::MaxMin() {
+  maxi = value_of(1);
+  mini = maxi;
+  HiLo = 0;
+  Low = -0.001;
+  range = mean = StdDev = 0;
+  if (Nop >= sites_worth_an_index) BuildSiteCells();
+
+  double sum = 0;
+  for (const double z : GridVal) {
+    sum = checked(sum + z);
+    if (z > maxi) maxi = z;
+    if (z < mini) mini = z;
+  }
+  maximal = maxi;
+  minimal = mini;
+  Summe_Value = sum;
+  mean = sum / Nop;
+  set_scale(maxi, mini);
+
+  if (Nop < 2) return;
+  StdDev = square_root(Globlal_Value_Sub_Mean(mean) / (Nop - 1));
+}
+
+void wafer::setMaximalMinial(double maxim, double minim) {
+  checked(maxim - minim);
+  maximal = maxim;
+  minimal = minim;
+  set_scale(maxim, minim);
+}
+
+void wafer::set_scale(double high, double low) {
+  range = checked(high - low);
+  HiLo = checked(high + low) == 0 ? 0 : checked(std::abs(range / (high + low)) * 100);
+  Low = high == low ? base_of_equal_limits(low) : low;
+}
+
+double wafer::base_of_equal_limits(double limit) { return checked((limit < 0 ? limit * 1.1 : limit * 0.9) - 0.001); }
+
+double wafer::Globlal_Value_Sub_Mean(double glmean) const {
+  double sum = 0;
+  for (const double z : GridVal) sum = checked(sum + (z - glmean) * (z - glmean));
+  return sum;
+}
+
+void wafer::Points_OutCL(double LCL, double UCL) {
+  NptLCL = 0;
+  NptUCL = 0;
+  for (const double z : GridVal) {
+    if (z > UCL) NptUCL += 1;
+    if (z < LCL) NptLCL += 1;
+  }
+}
+
+double wafer::Gauss(double hist_x) const { return StdNormal(divide(checked(hist_x - mean), StdDev)); }
+
+double wafer::StdNormal(double u) { return 1 / std::sqrt(2 * Pi) * std::exp(-0.5 * checked(u * u)); }
+
+void wafer::BuildSiteCells() {
+  const double R = WafDiam / 2;
+  const std::int16_t n = to_int16(Nop);
+  SiteCells = {};
+  GridCell = n >= 4 ? square_root(checked(R * R * Pi * 4) / n) : 2 * R;
+  HalfCells = to_int16(divide(R, GridCell));
+
+  std::vector<SiteIndex::Entry> entries;
+  entries.reserve(GridPos.size());
+  for (const Position& site : GridPos) {
+    const auto number = static_cast<std::int16_t>(entries.size());
+    entries.push_back({to_int16(site.x / GridCell + HalfCells), to_int16(site.y / GridCell + HalfCells),
+                       {site.x, site.y, number}});
+  }
+  SiteCells = SiteIndex(2 * HalfCells + 1, entries);
+}
+
+}  // namespace mirolen

@@ -1,0 +1,77 @@
+#include <cmath>
+
+#include "mirolen/core/wafer.h"
+
+namespace mirolen {
+namespace {
+
+constexpr std::int32_t largest_store = 1 << 24;
+constexpr double nearly_zero = 1e-15;
+
+void refuse_unless_finite(double x, double y, double Z) {
+  if (!std::isfinite(x) || !std::isfinite(y) || !std::isfinite(Z))
+    throw InvalidArgument("a site's numbers must be finite");
+}
+
+}  // namespace
+
+void wafer::reset() {
+  NextSite = 1;
+  Nop = 0;
+  FW_NUll = false;
+  FW_Negativ = false;
+  FirstUse = true;
+  GridPos.clear();
+  GridVal.clear();
+}
+
+void wafer::SetNop(double Number) {
+  if (!std::isfinite(Number)) throw InvalidArgument("a number of sites must be finite");
+  if (Number > largest_store) throw OutOfMemory();
+  const std::int32_t n = to_int32(Number);
+  if (n < 0) throw SubscriptOutOfRange();
+
+  std::vector<Position> positions(static_cast<std::size_t>(n));
+  std::vector<double> values(static_cast<std::size_t>(n));
+  GridPos.swap(positions);
+  GridVal.swap(values);
+  Nop = Number;
+}
+
+void wafer::SetGridValue(double x, double y, double Z) {
+  if (NextSite > Nop) return;
+  store_site(to_int32(NextSite), x, y, Z);
+  NextSite += 1;
+}
+
+void wafer::SetGridValueD(std::int16_t i, double x, double y, double Z) {
+  if (i > Nop) return;
+  store_site(i, x, y, Z);
+}
+
+void wafer::OverwriteGridValue(std::int16_t i, double x, double y, double Z) { store_site(i, x, y, Z); }
+
+double wafer::GetGridValue(std::int16_t ind, Array& gr) const {
+  const Position& position = position_of(ind);
+  gr(1) = position.x;
+  gr(2) = position.y;
+  return value_of(ind);
+}
+
+void wafer::store_site(std::int32_t site, double x, double y, double Z) {
+  const std::size_t at = place_of(site);
+  refuse_unless_finite(x, y, Z);
+
+  const bool zero = Z == 0 || (Z < nearly_zero && Z > -nearly_zero);
+  if (zero) FW_NUll = true;
+  if (!zero && Z < 0) FW_Negativ = true;
+  GridPos[at] = {x, y};
+  GridVal[at] = zero ? 0 : Z;
+}
+
+std::size_t wafer::place_of(std::int32_t site) const {
+  if (site < 1 || site > static_cast<std::int32_t>(GridVal.size())) throw SubscriptOutOfRange();
+  return static_cast<std::size_t>(site) - 1;
+}
+
+}  // namespace mirolen

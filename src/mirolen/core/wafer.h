@@ -1,0 +1,190 @@
+#pragma once
+
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "mirolen/core/Array.h"
+#include "mirolen/core/DecimalSeparator.h"
+#include "mirolen/core/SiteIndex.h"
+#include "mirolen/core/numbers.h"
+#include "mirolen/core/palette.h"
+
+namespace mirolen {
+
+class CaptionLabel;
+class ColorBox;
+class IndicatorLine;
+class IndicatorMark;
+class PlotCanvas;
+class ValueLabel;
+
+/// The ten colour boxes and value labels of a legend, first row first.
+using LegendBoxes = std::array<ColorBox*, 10>;
+using LegendLabels = std::array<ValueLabel*, 10>;
+
+/// A measured wafer: its sites, what is computed from them, its colours and texts, and the renderers that draw it.
+///
+/// A site is a position x, y in millimetres from the wafer's centre and one measured value z. Sites are numbered
+/// from 1 in the order of loading; 32,767 is the largest number. To load: `reset`, `SetNop`, one `SetGridValue` a
+/// site, `MaxMin`; or `LoadSiteArrays` and `LoadSiteFile`, which do all that. Before `MaxMin` has run, statistics
+/// are those of the data before and interpolation has no index.
+///
+/// Members throw RunTimeError and its kin where their comment says so. One thread at a time.
+class wafer {
+ public:
+  // ---- Colours, as numbers that carry a colour value ----
+  /// The ten interval colours, top of the scale first. A field of exactly 15.0 leaves its cells unpainted.
+  double col1 = QBColor(4), col2 = QBColor(12), col3 = QBColor(14), col4 = QBColor(10), col5 = QBColor(6);
+  double col6 = QBColor(2), col7 = QBColor(3), col8 = QBColor(9), col9 = QBColor(1), col10 = QBColor(5);
+  /// The sigma colours: above, inside and below the range.
+  double ColS1 = QBColor(4), ColS2 = QBColor(2), ColS3 = QBColor(1);
+
+  // ---- Flags ----
+  std::int16_t Save = 0, NewFile = 0;  ///< For the host; the library neither reads nor writes them.
+  bool FW_NUll = false;                ///< A stored value was zero, or nearer to zero than 1e-15.
+  bool FW_Negativ = false;             ///< A stored value was negative.
+  bool changeResx = true;              ///< Set when a surface's resolution changes; for the host.
+
+  // ---- Source file, for the host ----
+  std::string FileDT, filename, DirFileName;
+
+  // ---- Statistics of the last `MaxMin`, in the unit of z ----
+  double mean = 0, StdDev = 0;      ///< StdDev is the sample deviation (divisor n - 1).
+  double maxi = 0, mini = 0;        ///< Largest and smallest value.
+  double maximal = 0, minimal = 0;  ///< Plot limits: `maxi`, `mini` unless limits were set.
+  double HiLo = 0;                  ///< |maximal - minimal| / |maximal + minimal| in percent; 0 for a sum of 0.
+  double Low = 0;                   ///< Scale base: `minimal`, or a little below it where the limits are equal.
+  double range = 0;                 ///< maximal - minimal.
+  double Summe_Value = 0;           ///< Sum of all values.
+  double NptLCL = 0, NptUCL = 0;    ///< Sites below and above the control limits of `Points_OutCL`.
+  double vLcl = 0, vUcl = 0;        ///< Plot limits of a histogram.
+
+  // ---- The wafer itself, lengths in millimetres ----
+  double WafDiam = 0;       ///< Wafer diameter.
+  double WaferOrigRad = 0;  ///< Half of `WafDiam`; write it together with that.
+  double test_diam = 0;     ///< Test diameter: the circle inside which sites count.
+  double flat_ratio = 0;    ///< Exactly 1.0 for a notch; the controls write 0.98 for a flat.
+
+  // ---- Texts of report headers ----
+  std::string Meas_unit;  ///< Unit of z.
+  std::string Recognize, Special, equip, wafer, Operator, FAB, lot, meq;
+
+  // ---- Results of the histogram chart ----
+  std::int32_t maxHauf = 0;  ///< Largest class count.
+  double GaussMax = 0;       ///< Scale of the Gauss curve.
+
+  // ---- Store ----
+  /// Empties the store. Diameters, colours, texts and statistics keep their values.
+  void reset();
+  /// Makes room for Number sites, all zero, and forgets those before. An error leaves the store as it was.
+  /// @throws InvalidArgument if not finite, SubscriptOutOfRange if negative, OutOfMemory beyond 16,777,216.
+  void SetNop(double Number);
+  /// The number of sites that there is room for.
+  double GetNop() const { return Nop; }
+  /// Appends a site; one for which there is no more room is dropped without a word. A value nearer to zero than
+  /// 1e-15 is stored as 0. @throws InvalidArgument, storing nothing, for a number that is not finite.
+  void SetGridValue(double x, double y, double Z);
+  /// Writes site i, 1 or more; one beyond `GetNop` is dropped without a word. Statistics stay as they are.
+  /// @throws SubscriptOutOfRange for i below 1, InvalidArgument as `SetGridValue`.
+  void SetGridValueD(std::int16_t i, double x, double y, double Z);
+  /// As `SetGridValueD`, but @throws SubscriptOutOfRange for every i that is not a site.
+  void OverwriteGridValue(std::int16_t i, double x, double y, double Z);
+  /// Puts x and y of site ind into gr(1) and gr(2) and returns its z.
+  /// @throws SubscriptOutOfRange if there is no such site or gr lacks one of the two elements.
+  double GetGridValue(std::int16_t ind, Array& gr) const;
+
+  // ---- Statistics ----
+  /// Computes all statistics, puts the plot limits back to the data's extremes and, from 10 sites up, builds the
+  /// spatial index. Cost: two passes over the sites.
+  /// @throws SubscriptOutOfRange on an empty store or for a site more than about half an index cell beyond the
+  /// wafer's edge, OverflowError where a sum leaves the range of Double, DivisionByZero for a wafer of diameter 0.
+  void MaxMin();
+  /// Sets the plot limits and what follows from them (`range`, `HiLo`, `Low`). The order is not checked.
+  /// @throws OverflowError.
+  void setMaximalMinial(double maxim, double minim);
+  /// Sum of (z - glmean)^2 over all sites; 0 without any. @throws OverflowError.
+  double Globlal_Value_Sub_Mean(double glmean) const;
+  /// Counts the sites strictly below LCL into `NptLCL` and strictly above UCL into `NptUCL`.
+  void Points_OutCL(double LCL, double UCL);
+  /// Height of the Gauss curve of `mean` and `StdDev` at hist_x; its peak is 0.39894 whatever the deviation.
+  /// @throws DivisionByZero if `StdDev` is 0, OverflowError.
+  double Gauss(double hist_x) const;
+
+  // ---- Interpolation ----
+  /// The value at a point (millimetres), the inverse-square weighted mean of the four nearest sites; within
+  /// 0.0001 mm of a site that site's own value; 0 with fewer than 4 sites, or where no mean can be computed.
+  /// Never throws. Looks only at sites near the point from 10 sites up, at all sites below.
+  double Interpolation(double Xa, double Ya) const;
+  /// The same by a scan of all sites. Cost: linear in the number of sites.
+  /// @throws SubscriptOutOfRange where fewer than four sites lie within 1.5 wafer diameters, OverflowError.
+  double Interpolation_Einfach(double Xa, double Ya) const;
+
+  // ---- Outline and orientation mark (on pictures whose scale is pixels) ----
+  /// Draws the wafer with its flat or notch, turned by phi degrees and inclined to thet degrees (90: plan view).
+  /// x0 and y0 come back as the picture's centre; halb_a is ignored. FNLabel, which may be null, takes the text
+  /// "Notch" or "Flat". @throws RunTimeError of the canvas.
+  void FlatNotchShow(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double halb_a, double phi,
+                     double thet) const;
+  /// The same as an open arc round (x0, y0) with the radius halb_a, closed by the mark and filled.
+  void FlatNotchShow1(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double halb_a, double phi,
+                      double thet) const;
+  /// Lays a scan line across the small wafer picture Plot and its mark plus beyond the line's start. Plotopt 1:
+  /// the line through (x1, y1) at phi degrees, otherwise the line through (x2, y2) and (x3, y3); millimetres.
+  /// A `WafDiam` of 0 becomes 200 for good. @throws InvalidArgument if the line misses the test circle.
+  void draw_indicator(IndicatorLine& Iline, IndicatorMark& plus, std::int16_t Plotopt, std::int16_t phi, double x1,
+                      double y1, double x2, double y2, double x3, double y3, PlotCanvas& Plot);
+
+  // ---- Legends ----
+  /// Fills the ten rows of a colour legend: box colours, captions, and tool tips with more digits.
+  void scale_colored(const LegendBoxes& scalCol, const LegendLabels& scallab) const;
+  /// Fills the three rows of a sigma legend (rows 1, 3 and 5) and hides the others.
+  void scale_sigma(const LegendBoxes& scalCol, const LegendLabels& scallab, double SigmaRange) const;
+  /// A value as the text of a caption.
+  std::string FormatLbl(double dummy) const;
+
+  // ---- Renderers ----
+  /// Paints the interpolated map in cells of res millimetres. PlotStyle 5: ten bands; any other: three sigma
+  /// classes of SigmaRange deviations. marksites other than 0 marks each site. The area arguments are twips and
+  /// count only on a page (ShowDispl 1) or a printer. With three sites or fewer only the marks are drawn. A canvas
+  /// that fails is drawn on as far as it goes; nothing is thrown. Cost: one interpolation a grid node.
+  void D2Plot(PlotCanvas& Plot, double res, std::int16_t PlotStyle, double SigmaRange, std::int16_t marksites,
+              double left, double top, double width, double height, std::int16_t ShowDispl);
+
+ private:
+  struct Position {
+    double x = 0;
+    double y = 0;
+  };
+  struct Chord {
+    double scanStartX = 0, scanStartY = 0, scanEndX = 0, scanEndY = 0;
+  };
+  class MapPainter;
+
+  void store_site(std::int32_t site, double x, double y, double Z);
+  std::size_t place_of(std::int32_t site) const;
+  double value_of(std::int32_t site) const { return GridVal[place_of(site)]; }
+  const Position& position_of(std::int32_t site) const { return GridPos[place_of(site)]; }
+  void set_scale(double high, double low);
+  static double base_of_equal_limits(double limit);
+  void BuildSiteCells();
+  static double StdNormal(double u);
+  double mean_of_near_sites(double Xa, double Ya) const;
+  Chord chord_from_line(double x1, double y1, double x2, double y2) const;
+  Chord chord_from_angle(double x1, double y1, std::int16_t phi) const;
+
+  static inline const double Pi = 4 * std::atan(1.0);
+  bool FirstUse = true;
+  double Nop = 0;
+  double NextSite = 1;
+  std::vector<Position> GridPos;
+  std::vector<double> GridVal;
+  SiteIndex SiteCells;
+  double GridCell = 0;
+  std::int16_t HalfCells = 0;
+  [[no_unique_address]] DecimalSeparatorFromLocale separator_;
+};
+
+}  // namespace mirolen
