@@ -12,16 +12,17 @@ namespace mirolen::GlobalFunctions {
 /// With PlotLimitSet the plot limits in force outlast the load.
 /// @return 0 loaded; 1 the upper bound of y is neither that of x nor that of Z; 2 the same for lower bounds.
 /// @throws RunTimeError: a bound or an element that does not fit or is not finite (found before the store is
-/// touched); an array that is too short, or no sites, or `MaxMin`'s errors (the store keeps what had come in).
+/// touched); an array that is too short, or no sites, or `MaxMin`'s errors (the store keeps what had come
+/// in).
 std::int16_t LoadSiteArrays(bool PlotLimitSet, wafer& wafer, const ArrayView& x, const ArrayView& y,
                             const ArrayView& Z);
 
-/// Loads nops sites from a binary file: all x, then all y, then all z, as little-endian IEEE doubles without any
-/// header. Numbers that the file does not reach, or reaches only in part, are 0; bytes beyond them are ignored.
-/// The count is not in the file: a wrong one gives a scrambled map and no error.
+/// Loads nops sites from a binary file: all x, then all y, then all z, as little-endian IEEE doubles without
+/// any header. Numbers that the file does not reach, or reaches only in part, are 0; bytes beyond them are
+/// ignored. The count is not in the file: a wrong one gives a scrambled map and no error.
 /// @param datafile path in UTF-8.
-/// @return 0 loaded; 4 any failure (no such file, nops negative or above 32,767, a number that is not finite):
-/// the store has been reset by then and keeps what had come in.
+/// @return 0 loaded; 4 any failure (no such file, nops negative or above 32,767, a number that is not
+/// finite): the store has been reset by then and keeps what had come in.
 std::int16_t LoadSiteFile(bool PlotLimitSet, wafer& wafer, const std::string& datafile, double nops);
 
 /// Sets the plot limits to LPL and UPL and returns true; false, changing nothing, unless LPL is below UPL.

@@ -25,7 +25,8 @@ class SubscriptOutOfRange : public RunTimeError {
   SubscriptOutOfRange() : RunTimeError("subscript out of range") {}
 };
 
-/// An argument outside the domain of the operation: the root of a negative number, a value that is not finite.
+/// An argument outside the domain of the operation: the root of a negative number, a value that is not
+/// finite.
 class InvalidArgument : public RunTimeError {
   using RunTimeError::RunTimeError;
 };

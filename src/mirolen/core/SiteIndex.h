@@ -39,7 +39,9 @@ class SiteIndex {
   std::size_t sites() const { return sites_.size(); }
 
  private:
-  std::size_t place(std::int64_t cx, std::int64_t cy) const { return static_cast<std::size_t>(cy * side_ + cx); }
+  std::size_t place(std::int64_t cx, std::int64_t cy) const {
+    return static_cast<std::size_t>(cy * side_ + cx);
+  }
 
   std::int32_t side_ = 0;
   std::vector<std::uint32_t> first_;

@@ -11,8 +11,9 @@ constexpr double fewest_sites = 4;
 constexpr double sites_worth_an_index = 10;
 constexpr double largest_cell_number = 32767;
 
-/// The four nearest sites so far, nearest first. A distance that has found its slot is replaced by the marker for
-/// the slots behind it; where the marker lies below the slots' first distance, the first site fills all four.
+/// The four nearest sites so far, nearest first. A distance that has found its slot is replaced by the marker
+/// for the slots behind it; where the marker lies below the slots' first distance, the first site fills all
+/// four.
 class NearestFour {
  public:
   NearestFour(double first_distance, double marker, std::int32_t first_site) : marker_(marker) {
@@ -101,8 +102,8 @@ double wafer::mean_of_near_sites(double Xa, double Ya) const {
     const std::int64_t last_ring = std::abs(x0) + std::abs(y0) + SiteCells.side();
     insert_cell(x0, y0);
 
-    // The reach starts as a part of a cell and grows by millimetres, and its square is held against a distance:
-    // that is the measure that decides how many rings are looked at.
+    // The reach starts as a part of a cell and grows by millimetres, and its square is held against a
+    // distance: that is the measure that decides how many rings are looked at.
     const double ex = to_nearest_line(cx);
     const double ey = to_nearest_line(cy);
     double reach = ex < ey ? ex : ey;

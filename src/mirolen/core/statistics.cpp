@@ -46,7 +46,9 @@ void wafer::set_scale(double high, double low) {
   Low = high == low ? base_of_equal_limits(low) : low;
 }
 
-double wafer::base_of_equal_limits(double limit) { return checked((limit < 0 ? limit * 1.1 : limit * 0.9) - 0.001); }
+double wafer::base_of_equal_limits(double limit) {
+  return checked((limit < 0 ? limit * 1.1 : limit * 0.9) - 0.001);
+}
 
 double wafer::Globlal_Value_Sub_Mean(double glmean) const {
   double sum = 0;
@@ -78,7 +80,8 @@ void wafer::BuildSiteCells() {
   entries.reserve(GridPos.size());
   for (const Position& site : GridPos) {
     const auto number = static_cast<std::int16_t>(entries.size());
-    entries.push_back({to_int16(site.x / GridCell + HalfCells), to_int16(site.y / GridCell + HalfCells),
+    entries.push_back({to_int16(site.x / GridCell + HalfCells),
+                       to_int16(site.y / GridCell + HalfCells),
                        {site.x, site.y, number}});
   }
   SiteCells = SiteIndex(2 * HalfCells + 1, entries);

@@ -25,12 +25,13 @@ class ValueLabel;
 using LegendBoxes = std::array<ColorBox*, 10>;
 using LegendLabels = std::array<ValueLabel*, 10>;
 
-/// A measured wafer: its sites, what is computed from them, its colours and texts, and the renderers that draw it.
+/// A measured wafer: its sites, what is computed from them, its colours and texts, and the renderers that
+/// draw it.
 ///
-/// A site is a position x, y in millimetres from the wafer's centre and one measured value z. Sites are numbered
-/// from 1 in the order of loading; 32,767 is the largest number. To load: `reset`, `SetNop`, one `SetGridValue` a
-/// site, `MaxMin`; or `LoadSiteArrays` and `LoadSiteFile`, which do all that. Before `MaxMin` has run, statistics
-/// are those of the data before and interpolation has no index.
+/// A site is a position x, y in millimetres from the wafer's centre and one measured value z. Sites are
+/// numbered from 1 in the order of loading; 32,767 is the largest number. To load: `reset`, `SetNop`, one
+/// `SetGridValue` a site, `MaxMin`; or `LoadSiteArrays` and `LoadSiteFile`, which do all that. Before
+/// `MaxMin` has run, statistics are those of the data before and interpolation has no index.
 ///
 /// Members throw RunTimeError and its kin where their comment says so. One thread at a time.
 class wafer {
@@ -55,12 +56,12 @@ class wafer {
   double mean = 0, StdDev = 0;      ///< StdDev is the sample deviation (divisor n - 1).
   double maxi = 0, mini = 0;        ///< Largest and smallest value.
   double maximal = 0, minimal = 0;  ///< Plot limits: `maxi`, `mini` unless limits were set.
-  double HiLo = 0;                  ///< |maximal - minimal| / |maximal + minimal| in percent; 0 for a sum of 0.
-  double Low = 0;                   ///< Scale base: `minimal`, or a little below it where the limits are equal.
-  double range = 0;                 ///< maximal - minimal.
-  double Summe_Value = 0;           ///< Sum of all values.
-  double NptLCL = 0, NptUCL = 0;    ///< Sites below and above the control limits of `Points_OutCL`.
-  double vLcl = 0, vUcl = 0;        ///< Plot limits of a histogram.
+  double HiLo = 0;                ///< |maximal - minimal| / |maximal + minimal| in percent; 0 for a sum of 0.
+  double Low = 0;                 ///< Scale base: `minimal`, or a little below it where the limits are equal.
+  double range = 0;               ///< maximal - minimal.
+  double Summe_Value = 0;         ///< Sum of all values.
+  double NptLCL = 0, NptUCL = 0;  ///< Sites below and above the control limits of `Points_OutCL`.
+  double vLcl = 0, vUcl = 0;      ///< Plot limits of a histogram.
 
   // ---- The wafer itself, lengths in millimetres ----
   double WafDiam = 0;       ///< Wafer diameter.
@@ -84,8 +85,8 @@ class wafer {
   void SetNop(double Number);
   /// The number of sites that there is room for.
   double GetNop() const { return Nop; }
-  /// Appends a site; one for which there is no more room is dropped without a word. A value nearer to zero than
-  /// 1e-15 is stored as 0. @throws InvalidArgument, storing nothing, for a number that is not finite.
+  /// Appends a site; one for which there is no more room is dropped without a word. A value nearer to zero
+  /// than 1e-15 is stored as 0. @throws InvalidArgument, storing nothing, for a number that is not finite.
   void SetGridValue(double x, double y, double Z);
   /// Writes site i, 1 or more; one beyond `GetNop` is dropped without a word. Statistics stay as they are.
   /// @throws SubscriptOutOfRange for i below 1, InvalidArgument as `SetGridValue`.
@@ -97,10 +98,11 @@ class wafer {
   double GetGridValue(std::int16_t ind, Array& gr) const;
 
   // ---- Statistics ----
-  /// Computes all statistics, puts the plot limits back to the data's extremes and, from 10 sites up, builds the
-  /// spatial index. Cost: two passes over the sites.
-  /// @throws SubscriptOutOfRange on an empty store or for a site more than about half an index cell beyond the
-  /// wafer's edge, OverflowError where a sum leaves the range of Double, DivisionByZero for a wafer of diameter 0.
+  /// Computes all statistics, puts the plot limits back to the data's extremes and, from 10 sites up, builds
+  /// the spatial index. Cost: two passes over the sites.
+  /// @throws SubscriptOutOfRange on an empty store or for a site more than about half an index cell beyond
+  /// the wafer's edge, OverflowError where a sum leaves the range of Double, DivisionByZero for a wafer of
+  /// diameter 0.
   void MaxMin();
   /// Sets the plot limits and what follows from them (`range`, `HiLo`, `Low`). The order is not checked.
   /// @throws OverflowError.
@@ -123,19 +125,20 @@ class wafer {
   double Interpolation_Einfach(double Xa, double Ya) const;
 
   // ---- Outline and orientation mark (on pictures whose scale is pixels) ----
-  /// Draws the wafer with its flat or notch, turned by phi degrees and inclined to thet degrees (90: plan view).
-  /// x0 and y0 come back as the picture's centre; halb_a is ignored. FNLabel, which may be null, takes the text
-  /// "Notch" or "Flat". @throws RunTimeError of the canvas.
-  void FlatNotchShow(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double halb_a, double phi,
-                     double thet) const;
+  /// Draws the wafer with its flat or notch, turned by phi degrees and inclined to thet degrees (90: plan
+  /// view). x0 and y0 come back as the picture's centre; halb_a is ignored. FNLabel, which may be null, takes
+  /// the text "Notch" or "Flat". @throws RunTimeError of the canvas.
+  void FlatNotchShow(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double halb_a,
+                     double phi, double thet) const;
   /// The same as an open arc round (x0, y0) with the radius halb_a, closed by the mark and filled.
-  void FlatNotchShow1(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double halb_a, double phi,
-                      double thet) const;
-  /// Lays a scan line across the small wafer picture Plot and its mark plus beyond the line's start. Plotopt 1:
-  /// the line through (x1, y1) at phi degrees, otherwise the line through (x2, y2) and (x3, y3); millimetres.
-  /// A `WafDiam` of 0 becomes 200 for good. @throws InvalidArgument if the line misses the test circle.
-  void draw_indicator(IndicatorLine& Iline, IndicatorMark& plus, std::int16_t Plotopt, std::int16_t phi, double x1,
-                      double y1, double x2, double y2, double x3, double y3, PlotCanvas& Plot);
+  void FlatNotchShow1(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double halb_a,
+                      double phi, double thet) const;
+  /// Lays a scan line across the small wafer picture Plot and its mark plus beyond the line's start. Plotopt
+  /// 1: the line through (x1, y1) at phi degrees, otherwise the line through (x2, y2) and (x3, y3);
+  /// millimetres. A `WafDiam` of 0 becomes 200 for good. @throws InvalidArgument if the line misses the test
+  /// circle.
+  void draw_indicator(IndicatorLine& Iline, IndicatorMark& plus, std::int16_t Plotopt, std::int16_t phi,
+                      double x1, double y1, double x2, double y2, double x3, double y3, PlotCanvas& Plot);
 
   // ---- Legends ----
   /// Fills the ten rows of a colour legend: box colours, captions, and tool tips with more digits.
@@ -147,9 +150,10 @@ class wafer {
 
   // ---- Renderers ----
   /// Paints the interpolated map in cells of res millimetres. PlotStyle 5: ten bands; any other: three sigma
-  /// classes of SigmaRange deviations. marksites other than 0 marks each site. The area arguments are twips and
-  /// count only on a page (ShowDispl 1) or a printer. With three sites or fewer only the marks are drawn. A canvas
-  /// that fails is drawn on as far as it goes; nothing is thrown. Cost: one interpolation a grid node.
+  /// classes of SigmaRange deviations. marksites other than 0 marks each site. The area arguments are twips
+  /// and count only on a page (ShowDispl 1) or a printer. With three sites or fewer only the marks are drawn.
+  /// A canvas that fails is drawn on as far as it goes; nothing is thrown. Cost: one interpolation a grid
+  /// node.
   void D2Plot(PlotCanvas& Plot, double res, std::int16_t PlotStyle, double SigmaRange, std::int16_t marksites,
               double left, double top, double width, double height, std::int16_t ShowDispl);
 
@@ -174,6 +178,7 @@ class wafer {
   double mean_of_near_sites(double Xa, double Ya) const;
   Chord chord_from_line(double x1, double y1, double x2, double y2) const;
   Chord chord_from_angle(double x1, double y1, std::int16_t phi) const;
+  static Chord sloped_chord(double R2, double m, double b, bool rightward);
 
   static inline const double Pi = 4 * std::atan(1.0);
   bool FirstUse = true;

@@ -1,0 +1,20 @@
+#include "mirolen/render/ColorScale.h"
+
+#include <array>
+
+namespace mirolen {
+
+ScaleEnds scale_ends(const wafer& wafer) {
+  if (wafer.maximal == wafer.maxi && wafer.minimal == wafer.mini)
+    return {wafer.maximal, wafer.minimal, false};
+  const double margin = checked((wafer.maximal - wafer.minimal) / 8);
+  return {checked(wafer.maximal + margin), checked(wafer.minimal - margin), true};
+}
+
+double band_color(const wafer& wafer, int band) {
+  const std::array colors{wafer.col1, wafer.col2, wafer.col3, wafer.col4, wafer.col5,
+                          wafer.col6, wafer.col7, wafer.col8, wafer.col9, wafer.col10};
+  return colors.at(static_cast<std::size_t>(band - 1));
+}
+
+}  // namespace mirolen

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "mirolen/core/wafer.h"
+
+namespace mirolen {
+
+/// The two ends that a colour scale spans. Limits that a user set are widened by an eighth of their span on
+/// either side, so that the outer bands show what lies beyond them.
+struct ScaleEnds {
+  double high = 0;
+  double low = 0;
+  bool limited = false;
+};
+
+/// @throws OverflowError.
+ScaleEnds scale_ends(const wafer& wafer);
+
+/// The interval colour `col1` to `col10` of a band, 1 at the top of the scale.
+double band_color(const wafer& wafer, int band);
+
+}  // namespace mirolen

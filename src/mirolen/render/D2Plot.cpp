@@ -1,0 +1,272 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <vector>
+
+#include "mirolen/core/wafer.h"
+#include "mirolen/render/ColorScale.h"
+#include "mirolen/render/PlotArea.h"
+
+namespace mirolen {
+namespace {
+
+constexpr std::int16_t color_map = 5;
+constexpr double margin = 6;        // scale units left free in width and height
+constexpr double unpainted = 15.0;  // a colour of this very value leaves a cell unpainted
+constexpr double no_data = 0;       // scaled height of a point outside the wafer
+constexpr std::int16_t fewest_cells = 4, most_cells = 100;  // from the centre to the edge
+
+}  // namespace
+
+/// One call of `D2Plot`. A colour map is a mosaic of square cells, drawn from the top right corner leftward
+/// and down; the value at each grid node is interpolated once, and a row of them is kept for the cells below.
+class wafer::MapPainter {
+ public:
+  /// What `D2Plot` was asked for.
+  struct Request {
+    double res;
+    bool as_color_map;
+    double SigmaRange;
+  };
+
+  MapPainter(mirolen::wafer& wafer, PlotCanvas& canvas, const Request& request, PlotArea& area)
+      : wafer_(wafer), canvas_(canvas), request_(request), area_(area) {}
+
+  void set_up();
+  void paint_map();
+  void mark_sites();
+
+ private:
+  struct Corner {
+    int gx = 0;  // in grid steps from the centre
+    int gy = 0;
+  };
+
+  void set_scale_ends();
+  void set_mark_sizes();
+  void set_grid();
+  void set_mapping();
+  void paint_disc();
+  void paint_row(int j);
+  void paint_cell(const std::array<Corner, 4>& corners, std::array<double, 4> heights);
+  double cell_color(double zc) const;
+  double band_color_of(double zc) const;
+  double sigma_color_of(double zc) const;
+  void box(double x1, double y1, double x2, double y2, Color color);
+  void show();
+
+  bool inside(double x, double y) const { return y > flat_limit_ && x * x + y * y <= radius_square_; }
+  double norm(double z) const { return (z - wafer_.Low) * S_ / (high_ - wafer_.Low); }
+  double value_at(Corner node) const {
+    return wafer_.Interpolation(node.gx * request_.res, node.gy * request_.res);
+  }
+  double node_height(Corner node) const {
+    return norm(inside(node.gx * request_.res, node.gy * request_.res) ? value_at(node) : wafer_.Low);
+  }
+  PixelPoint pixel(Corner node) const {
+    return {columns_[static_cast<std::size_t>(node.gx + n_)], lines_[static_cast<std::size_t>(node.gy + n_)]};
+  }
+
+  mirolen::wafer& wafer_;
+  PlotCanvas& canvas_;
+  Request request_;
+  PlotArea& area_;
+
+  double high_ = 0, low_ = 0;  // the ends of the colour scale
+  std::int16_t long_arm_ = 0, short_arm_ = 0, black_arm_ = 0;
+  std::int16_t n_ = 0;              // cells from the centre to the edge
+  double S_ = 0, cx_ = 0, cy_ = 0;  // scale units per millimetre, and the centre
+  double band_ = 0;                 // scaled height of a band
+  double flat_limit_ = 0, radius_square_ = 0;
+  double sigma_low_ = 0, sigma_high_ = 0;
+  std::vector<std::int32_t> columns_, lines_;  // device pixels of the grid's lines, from -n up
+  std::vector<double> row_;                    // scaled heights of the grid line above the present row
+};
+
+void wafer::MapPainter::set_up() {
+  set_scale_ends();
+  area_.locate();
+  set_mark_sizes();
+  set_grid();
+  set_mapping();
+}
+
+void wafer::MapPainter::set_scale_ends() {
+  area_.resume([&] {
+    const ScaleEnds ends = scale_ends(wafer_);
+    high_ = ends.high;
+    low_ = ends.low;
+  });
+  area_.resume([&] {
+    wafer_.Low = high_ == low_ ? base_of_equal_limits(low_) : checked(low_ - (high_ - low_) * 0.1);
+  });
+}
+
+void wafer::MapPainter::set_mark_sizes() {
+  if (canvas_.kind() == CanvasKind::printer) {
+    area_.resume([&] { long_arm_ = to_int16(12 * canvas_.TwipsPerPixelX()); });
+    area_.resume([&] { short_arm_ = to_int16(4 * canvas_.TwipsPerPixelY()); });
+    area_.resume([&] { black_arm_ = to_int16(6 * canvas_.TwipsPerPixelX()); });
+  } else {
+    long_arm_ = 6;
+    short_arm_ = 2;
+    black_arm_ = 3;
+  }
+}
+
+void wafer::MapPainter::set_grid() {
+  const bool whole_wafer = request_.as_color_map && request_.SigmaRange != 0;
+  const double d = whole_wafer ? wafer_.WafDiam : wafer_.test_diam;
+  area_.resume([&] {
+    // More cells than a 16-bit number counts are too many all the same.
+    const double cells = divide(d / 2, request_.res);
+    n_ = cells > most_cells ? most_cells + 1 : to_int16(cells);
+  });
+  if (n_ < fewest_cells) {
+    n_ = fewest_cells;
+    request_.res = wafer_.test_diam / 8;
+  }
+  if (n_ > most_cells) {
+    n_ = most_cells;
+    request_.res = d / 200;
+  }
+}
+
+void wafer::MapPainter::set_mapping() {
+  area_.resume([&] {
+    const double x = divide(area_.width - margin, 2 * n_ * request_.res);
+    const double y = divide(area_.height - margin, 2 * n_ * request_.res);
+    S_ = x < y ? x : y;
+  });
+  cx_ = area_.left + area_.width / 2;
+  cy_ = area_.top + area_.height / 2;
+  area_.resume([&] { band_ = checked(S_ * (1 - divide((high_ - low_) * 0.1, high_ - wafer_.Low)) / 10); });
+  flat_limit_ = -(wafer_.flat_ratio - 0.5) * wafer_.WafDiam;
+  area_.resume([&] { radius_square_ = checked(wafer_.test_diam / 2 * (wafer_.test_diam / 2)); });
+  area_.resume([&] { sigma_low_ = checked(norm(wafer_.mean - request_.SigmaRange * wafer_.StdDev)); });
+  area_.resume([&] { sigma_high_ = checked(norm(request_.SigmaRange * wafer_.StdDev + wafer_.mean)); });
+
+  const auto nodes = static_cast<std::size_t>(2 * n_ + 1);
+  columns_.assign(nodes, 0);
+  lines_.assign(nodes, 0);
+  for (std::size_t at = 0; at < nodes; ++at) {
+    const double k = static_cast<int>(at) - n_;
+    area_.resume([&] { columns_[at] = to_int32(cx_ + k * request_.res * S_); });
+    area_.resume([&] { lines_[at] = to_int32(cy_ - k * request_.res * S_); });
+  }
+}
+
+void wafer::MapPainter::paint_map() {
+  paint_disc();
+  row_.resize(columns_.size());
+  for (int i = 0; i <= 2 * n_; ++i) row_[static_cast<std::size_t>(i)] = node_height({n_ - i, n_});
+  for (int j = 0; j < 2 * n_; ++j) {
+    paint_row(j);
+    show();
+  }
+  show();
+}
+
+void wafer::MapPainter::paint_disc() {
+  area_.resume([&] { canvas_.FillStyle(solid_fill); });
+  area_.resume([&] { canvas_.FillColor(QBColor(15)); });
+  area_.resume([&] { canvas_.DrawStyle(solid_line); });
+  area_.resume([&] { canvas_.DrawWidth(1); });
+  area_.resume([&] { canvas_.Circle(cx_, cy_, S_ * wafer_.test_diam / 2, QBColor(15)); });
+}
+
+void wafer::MapPainter::paint_row(int j) {
+  double zC = 0;
+  for (int i = 0; i < 2 * n_; ++i) {
+    const Corner A{n_ - i, n_ - j}, B{n_ - i - 1, n_ - j}, C{n_ - i - 1, n_ - j - 1}, D{n_ - i, n_ - j - 1};
+    const auto at = static_cast<std::size_t>(i);
+    const double zA = row_[at];
+    const double zB = row_[at + 1];
+    const double zD = i == 0 ? node_height(D) : zC;
+    zC = node_height(C);
+    row_[at] = zD;
+    paint_cell({A, B, C, D}, {zA, zB, zC, zD});
+  }
+  row_.back() = zC;
+}
+
+void wafer::MapPainter::paint_cell(const std::array<Corner, 4>& corners, std::array<double, 4> heights) {
+  const auto outside = std::count(heights.begin(), heights.end(), no_data);
+  if (outside == 1 || outside == 2)
+    for (std::size_t corner = 0; corner < 4; ++corner)
+      if (heights[corner] == no_data) heights[corner] = norm(value_at(corners[corner]));
+  const auto [zA, zB, zC, zD] = heights;
+  const double zc = (zA + zB + zD + zC) / 4;
+
+  area_.resume([&] { canvas_.DrawStyle(no_outline); });
+  const double color = zc == no_data || outside > 2 ? unpainted : cell_color(zc);
+  if (color == unpainted) return;
+  area_.resume([&] { canvas_.FillColor(to_color(color)); });
+  area_.resume([&] { canvas_.FillStyle(solid_fill); });
+  area_.resume([&] {
+    const std::array points{pixel(corners[0]), pixel(corners[1]), pixel(corners[2]), pixel(corners[3])};
+    canvas_.Polygon(points);
+  });
+}
+
+double wafer::MapPainter::cell_color(double zc) const {
+  return request_.as_color_map ? band_color_of(zc) : sigma_color_of(zc);
+}
+
+double wafer::MapPainter::band_color_of(double zc) const {
+  if (high_ == low_) return wafer_.col6;
+  double color = unpainted;
+  if (zc >= S_ - band_) color = wafer_.col1;
+  for (int k = 1; k <= 8; ++k)
+    if (S_ - (k + 1) * band_ <= zc && zc < S_ - k * band_) color = band_color(wafer_, k + 1);
+  if (zc < S_ - 9 * band_) color = wafer_.col10;
+  return color;
+}
+
+double wafer::MapPainter::sigma_color_of(double zc) const {
+  const bool flat_data = wafer_.maxi == wafer_.mini;
+  if (!flat_data && zc < sigma_low_) return wafer_.ColS3;
+  if (!flat_data && zc > sigma_high_) return wafer_.ColS1;
+  return wafer_.ColS2;
+}
+
+void wafer::MapPainter::mark_sites() {
+  std::int16_t sites = 0;
+  area_.resume([&] { sites = to_int16(static_cast<double>(wafer_.GridVal.size())); });
+  for (std::int32_t k = 1; k <= sites; ++k) {
+    const Position& site = wafer_.position_of(k);
+    const bool high = wafer_.value_of(k) >= wafer_.mean;
+    const double px = cx_ + S_ * site.x;
+    const double py = cy_ - S_ * site.y;
+    box(px - long_arm_, py - short_arm_, px + long_arm_, py + short_arm_, QBColor(15));
+    if (high) box(px - short_arm_, py - long_arm_, px + short_arm_, py + long_arm_, QBColor(15));
+    box(px - black_arm_, py, px + black_arm_, py, QBColor(0));
+    if (high) box(px, py - black_arm_, px, py + black_arm_, QBColor(0));
+    show();
+  }
+}
+
+void wafer::MapPainter::box(double x1, double y1, double x2, double y2, Color color) {
+  area_.resume([&] { canvas_.Line(filled_box_flags, x1, y1, x2, y2, color); });
+}
+
+void wafer::MapPainter::show() {
+  if (canvas_.kind() == CanvasKind::picture_box) area_.resume([&] { canvas_.Refresh(); });
+}
+
+void wafer::D2Plot(PlotCanvas& Plot, double res, std::int16_t PlotStyle, double SigmaRange,
+                   std::int16_t marksites, double left, double top, double width, double height,
+                   std::int16_t ShowDispl) {
+  PlotArea area(Plot, left, top, width, height, ShowDispl);
+  if (!area.on_page()) {
+    area.resume([&] { Plot.Cls(); });
+    area.resume([&] { Plot.Refresh(); });
+  }
+  MapPainter painter(*this, Plot, {res, PlotStyle == color_map, SigmaRange}, area);
+  painter.set_up();
+  if (Nop > 3) painter.paint_map();
+  if (marksites != 0) painter.mark_sites();
+  area.resume([&] { setMaximalMinial(maximal, minimal); });
+}
+
+}  // namespace mirolen

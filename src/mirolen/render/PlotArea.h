@@ -1,0 +1,44 @@
+#pragma once
+
+#include "mirolen/render/PlotCanvas.h"
+
+namespace mirolen {
+
+/// The part of a canvas that a renderer draws in, in the canvas's units: the whole canvas on a screen,
+/// otherwise a rectangle given in twips. It also guards the renderer's statements: where one fails, the area
+/// becomes the rectangle at 4.8 twips per pixel, a page of 300 dots per inch, and the renderer goes on.
+class PlotArea {
+ public:
+  /// @param ShowDispl 1: a page, drawn over what is there.
+  PlotArea(PlotCanvas& canvas, double left, double top, double width, double height, std::int16_t ShowDispl)
+      : canvas_(canvas), page_{left, top, width, height}, on_page_(ShowDispl == 1) {}
+
+  bool on_page() const { return on_page_; }
+
+  /// Runs a statement that may fail.
+  template <class Statement>
+  void resume(Statement&& statement) {
+    ResumeNext([this] { fall_back(); })(statement);
+  }
+
+  /// Finds the area. An edge whose resolution cannot be read stays at the fallback.
+  void locate();
+
+  double left = 0, top = 0, width = 0, height = 0;
+
+ private:
+  struct Rectangle {
+    double left, top, width, height;
+  };
+
+  void fall_back();
+  bool in_twips() const { return on_page_ || canvas_.kind() == CanvasKind::printer; }
+  double twips_x() const;
+  double twips_y() const;
+
+  PlotCanvas& canvas_;
+  Rectangle page_;
+  bool on_page_;
+};
+
+}  // namespace mirolen

@@ -1,0 +1,100 @@
+#include <cmath>
+
+#include "mirolen/render/ColorScale.h"
+#include "mirolen/render/Companions.h"
+#include "mirolen/render/StringFormat.h"
+
+namespace mirolen {
+namespace {
+
+constexpr int rows = 10;
+
+/// How the numbers of a legend's texts are written.
+struct FieldFormat {
+  std::int16_t width = 0;
+  std::int16_t decimals = 0;
+  bool useExp = false;
+
+  std::string operator()(double value) const {
+    return StringFormat::FormatField(value, width, decimals, useExp);
+  }
+};
+
+struct LegendFormat {
+  FieldFormat caption;
+  FieldFormat tool_tip;
+};
+
+/// A scale below zero takes its decimals from a narrower field, but is then written in the same one.
+LegendFormat legend_format(const ScaleEnds& ends) {
+  const bool negative = ends.low < 0;
+  FieldFormat caption{static_cast<std::int16_t>(negative ? 5 : 6)};
+  FieldFormat tool_tip{static_cast<std::int16_t>(negative ? 9 : 10)};
+  bool useExp = false;
+  caption.decimals = StringFormat::DecimalsFor(ends.high, caption.width, useExp);
+  tool_tip.decimals = StringFormat::DecimalsFor(ends.high, tool_tip.width, useExp);
+  if (useExp) {
+    caption.width = 9;
+    caption.decimals = 1;
+  } else {
+    caption.width = 6;
+    tool_tip.width = 10;
+  }
+  caption.useExp = tool_tip.useExp = useExp;
+  return {caption, tool_tip};
+}
+
+/// The text of a row; under user limits the end rows are open.
+std::string row_text(int row, bool limited, double top, double bottom, const FieldFormat& format) {
+  if (limited && row == 1) return " > " + format(bottom);
+  if (limited && row == rows) return " < " + format(top);
+  return format(top) + " - " + format(bottom);
+}
+
+template <class Row>
+auto& at(const std::array<Row*, rows>& collection, int row) {
+  return *collection[static_cast<std::size_t>(row - 1)];
+}
+
+}  // namespace
+
+void wafer::scale_colored(const LegendBoxes& scalCol, const LegendLabels& scallab) const {
+  const ScaleEnds ends = scale_ends(*this);
+  const double step = checked((ends.high - ends.low) / rows);
+  const LegendFormat format = legend_format(ends);
+  for (int i = 1; i <= rows; ++i) {
+    const double top = ends.high - (i - 1) * step;
+    const double bottom = ends.high - i * step;
+    at(scallab, i).caption(row_text(i, ends.limited, top, bottom, format.caption));
+    at(scallab, i).ToolTipText(row_text(i, ends.limited, top, bottom, format.tool_tip));
+    at(scalCol, i).set_color(to_color(band_color(*this, i)));
+  }
+}
+
+void wafer::scale_sigma(const LegendBoxes& scalCol, const LegendLabels& scallab, double SigmaRange) const {
+  bool useExp = false;
+  const std::int16_t decimals = StringFormat::DecimalsFor(SigmaRange, 3, useExp);
+  const std::string sigma = StringFormat::FormatField(SigmaRange, 0, decimals, useExp);
+  const auto show = [&](int row, const char* relation, double color) {
+    at(scallab, row).caption(relation + sigma);
+    at(scalCol, row).set_color(to_color(color));
+  };
+  show(1, ">   ", ColS1);
+  show(3, "+-  ", ColS2);
+  show(5, "< - ", ColS3);
+  for (int i = 1; i <= rows; ++i) {
+    const bool used = i == 1 || i == 3 || i == 5;
+    at(scallab, i).set_visible(used);
+    at(scalCol, i).set_visible(used);
+  }
+}
+
+std::string wafer::FormatLbl(double dummy) const {
+  if (dummy == 0) return StringFormat::format_number(0, "0.0");
+  const double size = std::abs(dummy);
+  const char* format = size < 1 ? "0.0######" : size <= 10000 ? "0.0###" : "0.0#";
+  const bool plain = size >= 1e-7 && size <= 100000;
+  return StringFormat::format_number(dummy, plain ? format : "0.###E+#0");
+}
+
+}  // namespace mirolen

@@ -1,0 +1,121 @@
+#include <array>
+#include <cmath>
+
+#include "mirolen/core/wafer.h"
+#include "mirolen/render/Companions.h"
+#include "mirolen/render/PlotCanvas.h"
+
+namespace mirolen {
+namespace {
+
+constexpr double notch = 1.0;
+
+/// The inclined outline: points by angle (degrees, 0 at the bottom, turning toward +x) and radius.
+class InclinedCircle {
+ public:
+  InclinedCircle(double x0, double y0, double aspect, double Pi)
+      : x0_(x0), y0_(y0), aspect_(aspect), Pi_(Pi) {}
+
+  SurfacePoint operator()(double angle, double radius) const {
+    const double a = angle * Pi_ / 180;
+    return {x0_ + radius * std::sin(a), y0_ + radius * aspect_ * std::cos(a)};
+  }
+
+ private:
+  double x0_, y0_, aspect_, Pi_;
+};
+
+PixelPoint rounded(SurfacePoint point) { return {to_int32(point.x), to_int32(point.y)}; }
+
+void draw_line(PlotCanvas& canvas, SurfacePoint from, SurfacePoint to, std::optional<Color> color = {}) {
+  canvas.Line(line_flags, from.x, from.y, to.x, to.y, color);
+}
+
+void set_disc_state(PlotCanvas& canvas) {
+  canvas.FillStyle(solid_fill);
+  canvas.FillColor(QBColor(15));
+  canvas.DrawStyle(solid_line);
+  canvas.DrawWidth(1);
+}
+
+/// Covers a part of the disc in the picture's background.
+template <std::size_t count>
+void cut_out(PlotCanvas& canvas, const std::array<SurfacePoint, count>& corners) {
+  const Color background = canvas.BackColor();
+  canvas.ForeColor(background);
+  canvas.FillColor(background);
+  canvas.FillStyle(solid_fill);
+  std::array<PixelPoint, count> points;
+  for (std::size_t i = 0; i < count; ++i) points[i] = rounded(corners[i]);
+  canvas.Polygon(points);
+}
+
+/// A start or end angle of the open arc, in radians.
+double arc_angle(double degrees, double Pi) {
+  const double turned = degrees + 270;
+  return to_int16(turned > 360 ? turned - 360 : turned) * Pi / 180;
+}
+
+}  // namespace
+
+void wafer::FlatNotchShow(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double,
+                          double phi, double thet) const {
+  x0 = FNPic.ScaleWidth() / 2;
+  y0 = FNPic.ScaleHeight() / 2;
+  const double R = (y0 < x0 ? y0 : x0) - 7;
+  const double k = std::sin(thet * Pi / 180);
+  const InclinedCircle P(x0, y0, k, Pi);
+
+  FNPic.ForeColor(QBColor(0));
+  FNPic.FillColor(QBColor(15));
+  FNPic.Cls();
+  set_disc_state(FNPic);
+  FNPic.Circle(x0, y0, R, {}, {}, {}, k);
+
+  if (flat_ratio == notch) {
+    if (FNLabel) FNLabel->caption("Notch");
+    const SurfacePoint A = P(phi + 10, R), B = P(phi - 10, R), C = P(phi, 0.8 * R), D = P(phi, 1.05 * R);
+    cut_out(FNPic, std::array{A, C, B, D, A});
+    draw_line(FNPic, A, C, QBColor(12));
+  } else {
+    if (FNLabel) FNLabel->caption("Flat");
+    const double R2 = R + R / 3;
+    const SurfacePoint A = P(phi + 35, R), B = P(phi - 35, R), C = P(phi + 35, R2), D = P(phi - 35, R2);
+    cut_out(FNPic, std::array{A, B, D, C});
+    draw_line(FNPic, A, B, QBColor(12));
+  }
+  FNPic.Refresh();
+}
+
+void wafer::FlatNotchShow1(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double halb_a,
+                           double phi, double thet) const {
+  const double k = std::sin(thet * Pi / 180);
+  const InclinedCircle P(x0, y0, k, Pi);
+  const auto open_arc = [&](double half_opening) {
+    FNPic.Circle(x0, y0, halb_a, {}, arc_angle(phi + half_opening, Pi), arc_angle(phi - half_opening, Pi), k);
+  };
+  const auto fill = [&] { FNPic.FloodFill(to_int32(x0), to_int32(y0), FNPic.ForeColor()); };
+
+  set_disc_state(FNPic);
+  FNPic.Cls();
+  FNPic.DrawWidth(2);
+  if (flat_ratio == notch) {
+    if (FNLabel) FNLabel->caption("Notch");
+    open_arc(10);
+    const SurfacePoint A = P(phi + 11, halb_a), B = P(phi - 11, halb_a), C = P(phi, 0.8 * halb_a);
+    draw_line(FNPic, A, C);
+    draw_line(FNPic, C, B);
+    fill();
+    draw_line(FNPic, A, C, QBColor(12));
+  } else {
+    if (FNLabel) FNLabel->caption("Flat");
+    open_arc(34);
+    const SurfacePoint A = P(phi + 35, halb_a), B = P(phi - 35, halb_a);
+    draw_line(FNPic, A, B);
+    fill();
+    draw_line(FNPic, A, B, QBColor(12));
+  }
+  FNPic.Refresh();
+}
+
+}  // namespace mirolen
