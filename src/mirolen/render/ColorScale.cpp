@@ -11,10 +11,11 @@ ScaleEnds scale_ends(const wafer& wafer) {
   return {checked(wafer.maximal + margin), checked(wafer.minimal - margin), true};
 }
 
-double band_color(const wafer& wafer, int band) {
-  const std::array colors{wafer.col1, wafer.col2, wafer.col3, wafer.col4, wafer.col5,
-                          wafer.col6, wafer.col7, wafer.col8, wafer.col9, wafer.col10};
-  return colors.at(static_cast<std::size_t>(band - 1));
+double& band_color(wafer& wafer, int band) {
+  const std::array colors{&wafer.col1, &wafer.col2, &wafer.col3, &wafer.col4, &wafer.col5,
+                          &wafer.col6, &wafer.col7, &wafer.col8, &wafer.col9, &wafer.col10};
+  if (band < 1 || band > 10) throw SubscriptOutOfRange();
+  return *colors[static_cast<std::size_t>(band - 1)];
 }
 
 }  // namespace mirolen

@@ -15,7 +15,10 @@ struct ScaleEnds {
 /// @throws OverflowError.
 ScaleEnds scale_ends(const wafer& wafer);
 
-/// The interval colour `col1` to `col10` of a band, 1 at the top of the scale.
-double band_color(const wafer& wafer, int band);
+/// The interval colour `col1` to `col10` of a band, 1 at the top of the scale. @throws SubscriptOutOfRange.
+double& band_color(wafer& wafer, int band);
+inline double band_color(const wafer& wafer, int band) {
+  return band_color(const_cast<mirolen::wafer&>(wafer), band);
+}
 
 }  // namespace mirolen

@@ -18,7 +18,7 @@ class CaptionLabel {
 /// A value of a legend.
 class ValueLabel : public CaptionLabel {
  public:
-  virtual void ToolTipText(const std::string& text) = 0;
+  virtual void tool_tip(const std::string& text) = 0;
   virtual void set_visible(bool visible) = 0;
 };
 
@@ -43,7 +43,7 @@ class IndicatorMark {
   virtual ~IndicatorMark() = default;
   virtual double width() const = 0;
   virtual double height() const = 0;
-  virtual void Move(double left, double top) = 0;
+  virtual void move_to(double left, double top) = 0;
   virtual void set_visible(bool visible) = 0;
 };
 

@@ -45,8 +45,9 @@ ScreenResolution& screen_resolution() {
 }
 
 Surface& SurfaceCanvas::surface(const char* member) const {
-  if (!surface_) throw CanvasError(member);
-  return *surface_;
+  Surface* const found = device();
+  if (!found) throw CanvasError(member);
+  return *found;
 }
 
 SurfaceSize SurfaceCanvas::unit(const char* member) const {
@@ -107,7 +108,7 @@ double SurfaceCanvas::CurrentY() const { return text_place_.y / unit("CurrentY")
 void SurfaceCanvas::CurrentY(double y) { text_place_.y = pixel("CurrentY", 0, y).y; }
 
 void SurfaceCanvas::Cls() {
-  surface("Cls").clear(resolve(back_color_));
+  surface("Cls").clear(resolve(background()));
   text_place_ = {};
 }
 
@@ -145,9 +146,9 @@ void SurfaceCanvas::Circle(double x, double y, double radius, std::optional<Colo
 
 void SurfaceCanvas::Print(std::string_view text) {
   Surface& device = surface("Print");
-  const std::optional<Color> background =
-      font_transparent_ ? std::nullopt : std::optional<Color>(resolve(back_color_));
-  device.text(font_, resolve(fore_color_), background, text_place_, text);
+  const std::optional<Color> behind =
+      font_transparent_ ? std::nullopt : std::optional<Color>(resolve(background()));
+  device.text(font_, resolve(fore_color_), behind, text_place_, text);
   text_place_ = {0, text_place_.y + device.measure(font_, text).height};
 }
 

@@ -14,9 +14,6 @@ class SurfaceCanvas : public PlotCanvas {
   /// @param surface stays the caller's, and in place as long as the canvas draws; may be null.
   SurfaceCanvas(CanvasKind kind, Surface* surface) : kind_(kind), surface_(surface) {}
 
-  /// Draws on another surface from now on; the drawing state stays.
-  void draw_on(Surface* surface) { surface_ = surface; }
-
   CanvasKind kind() const override { return kind_; }
 
   double ScaleLeft() const override { return 0; }
@@ -46,8 +43,8 @@ class SurfaceCanvas : public PlotCanvas {
   void DrawWidth(std::int16_t width) override;
   Color ForeColor() const override { return fore_color_; }
   void ForeColor(Color color) override { fore_color_ = color; }
-  Color BackColor() const override { return back_color_; }
-  void BackColor(Color color) override { back_color_ = color; }
+  Color BackColor() const override { return background(); }
+  void BackColor(Color color) override { set_background(color); }
   double CurrentX() const override;
   void CurrentX(double x) override;
   double CurrentY() const override;
@@ -70,11 +67,15 @@ class SurfaceCanvas : public PlotCanvas {
   void FloodFill(std::int32_t x, std::int32_t y, Color boundary) override;
 
  protected:
-  Surface& surface(const char* member) const;
+  /// The surface to draw on at this moment, or null.
+  virtual Surface* device() const { return surface_; }
+  virtual Color background() const { return back_color_; }
+  virtual void set_background(Color color) { back_color_ = color; }
   /// The colour that a colour value stands for on this canvas.
   virtual Color resolve(Color color) const { return color; }
 
  private:
+  Surface& surface(const char* member) const;
   /// Pixels of one scale unit.
   SurfaceSize unit(const char* member) const;
   SurfacePoint pixel(const char* member, double x, double y) const;

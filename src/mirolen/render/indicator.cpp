@@ -74,7 +74,7 @@ void wafer::draw_indicator(IndicatorLine& Iline, IndicatorMark& plus, std::int16
       mini_wafer.scale(Plot.ScaleWidth() + 2.5 * plus.width(), Plot.ScaleHeight() + 2.5 * plus.height());
   const double px = to_int16(Plot.left() + Plot.width() / 2 + wider * beyond.scanStartX * mini_wafer.shrink);
   const double py = to_int16(Plot.top() + Plot.height() / 2 - wider * beyond.scanStartY * mini_wafer.shrink);
-  plus.Move(px - plus.width() / 2, py - plus.height() / 2);
+  plus.move_to(px - plus.width() / 2, py - plus.height() / 2);
   plus.set_visible(true);
 }
 

@@ -66,7 +66,7 @@ void wafer::scale_colored(const LegendBoxes& scalCol, const LegendLabels& scalla
     const double top = ends.high - (i - 1) * step;
     const double bottom = ends.high - i * step;
     at(scallab, i).caption(row_text(i, ends.limited, top, bottom, format.caption));
-    at(scallab, i).ToolTipText(row_text(i, ends.limited, top, bottom, format.tool_tip));
+    at(scallab, i).tool_tip(row_text(i, ends.limited, top, bottom, format.tool_tip));
     at(scalCol, i).set_color(to_color(band_color(*this, i)));
   }
 }

@@ -1,0 +1,156 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "mirolen/controls/enumerations.h"
+#include "mirolen/core/Array.h"
+#include "mirolen/core/wafer.h"
+#include "mirolen/widgets/widgets.h"
+
+namespace mirolen {
+
+/// What all plot controls share: their wafer, its data, limits, statistics and diameters, and their notices.
+///
+/// The order for a host: `WaferDiameter` (it empties the store), `TestDiameter`, `SetWaferData` or
+/// `SetDataFile`, the looks, `Plot`. A setter never redraws: `Plot` does, or the next change of size. No
+/// member throws; errors are told by results, and where a result has no room for them they end the member
+/// quietly. Numbers that are not finite count as missing: the member takes its default.
+class ControlFrame : public UserControl {
+ public:
+  // ---- Data ----
+  /// Loads sites: x and y in millimetres from the wafer's centre, values Z. Arrays of the host (std::vector,
+  /// std::span) have the lower bound 1. A plot limit in force is kept; the drawing is wiped, also for 1
+  /// and 2.
+  /// @return 0 loaded; 1 the upper bound of y is neither that of x nor that of Z; 2 the same for lower
+  /// bounds; 4 any other error: too short an array, no sites or more than 32,767, a number that is not
+  /// finite, a site far outside the wafer. On 4 the drawing stays.
+  std::int16_t SetWaferData(const ArrayView& x, const ArrayView& y, const ArrayView& Z);
+  /// Loads nops sites from a binary file: all x, all y, all z as little-endian doubles, without a header. A
+  /// file that is too short counts as filled up with zeros. @return 0 loaded; 4 any failure.
+  std::int16_t SetDataFile(const std::string& datafile, double nops);
+  /// Fills the arrays, resized to (1 To n), with the sites. @return n; with 0 the arrays stay as they are.
+  double GetWaferData(Array& x, Array& y, Array& Z) const;
+  double GetWaferData(std::vector<double>& x, std::vector<double>& y, std::vector<double>& Z) const;
+
+  // ---- Plot ----
+  /// Draws the plot, or stretches the picture of the last drawing while nothing has changed since.
+  /// @return 0 drawn; 1 no data.
+  std::int16_t Plot();
+  /// Erases the drawing; the data stay.
+  virtual void clear() = 0;
+  /// Makes the next `Plot` or change of size draw afresh.
+  void SetPlotNotVaild() { PlotValid = false; }
+
+  /// Sets the ends of the scale; draws at once if there is a plot. @return true if a new limit was taken: LPL
+  /// below UPL and not both in force already. A refused one leaves the scale as it is.
+  bool SetPlotLimit(double LPL, double UPL);
+  /// Puts the scale back to the data's own extremes.
+  void ReleasePlotLimit();
+
+  /// The value at a point in millimetres; 0 with fewer than 4 sites.
+  double Interpolation(double x, double y) const { return wafobj.Interpolation(x, y); }
+
+  // ---- Statistics of the data, computed at each call ----
+  double mean() const { return wafobj.mean; }
+  double StdDev() const { return wafobj.StdDev; }
+  double Maximum() const { return wafobj.maxi; }
+  double Minimum() const { return wafobj.mini; }
+  /// The spread of the data, whatever the plot limits.
+  double range() const;
+  /// |max - min| / |max + min| in percent; 0 where the sum is 0.
+  double HiLo() const;
+  /// The deviation in percent of the mean; 0 for a mean of 0 or below.
+  double StdDevPercent() const;
+
+  // ---- Wafer ----
+  double WaferDiameter() const { return wafobj.WafDiam; }
+  /// Millimetres; 0 and below become 200. Empties the store.
+  void WaferDiameter(double v);
+  double TestDiameter() const { return wafobj.test_diam; }
+  /// Millimetres; below 0 becomes the wafer diameter. A smaller one than before shortens the list of sites to
+  /// the number of those that lie within.
+  void TestDiameter(double v);
+  WaferSt WaferStyle() const {
+    return wafobj.flat_ratio == flat_ratio_of_a_flat ? WaferSt::Flat : WaferSt::Notch;
+  }
+  void WaferStyle(WaferSt v);
+
+  // ---- Looks ----
+  bool HideLegend() const { return !LegendShown; }
+  virtual void HideLegend(bool v) = 0;
+  virtual Color BackColor() const { return UserControl::BackColor; }
+  virtual void BackColor(Color v) = 0;
+
+  std::int16_t MousePointer() const { return UserControl::MousePointer; }
+  void MousePointer(std::int16_t v) { UserControl::MousePointer = v; }
+  std::shared_ptr<const Image> MouseIcon() const { return UserControl::MouseIcon; }
+  void MouseIcon(std::shared_ptr<const Image> v) { UserControl::MouseIcon = v; }
+
+  /// The system's handle of the control's window, 0 without one; its device context, 0 where there is no such
+  /// thing.
+  std::int32_t hwnd() const;
+  std::int32_t hdc() const { return 0; }
+
+  /// What the print members draw on; the host's, and null where the system has no printer.
+  std::shared_ptr<PlotCanvas> PrinterObj;
+
+  /// The settings of a control that is new to its form.
+  virtual void InitProperties() = 0;
+
+  /// Takes a size in twips and lays the control out, as a change of size by the host's form does.
+  void resize_to(double width, double height);
+
+  /// The control's store and renderer, for a host that needs more than the properties; never replaced.
+  wafer wafobj;
+
+ protected:
+  ControlFrame(Toolkit& toolkit, Container& container);
+
+  static constexpr double flat_ratio_of_a_flat = 0.98;
+
+  /// The settings that `Plot` fills in beyond those of all controls.
+  virtual void fill_in_settings() = 0;
+  /// The last step of `Plot`.
+  virtual void show_plot() = 0;
+  /// The steps of the resize handler; may throw RunTimeError.
+  virtual void lay_out() = 0;
+  /// Empties the drawing and its snapshot after the data have changed.
+  virtual void wipe_drawing() = 0;
+  virtual void forget_snapshot() = 0;
+
+  /// Runs the resize handler; an error ends it without a word.
+  void resize_handler();
+  /// Gives the control at least this size, inside its resize handler and without running that again.
+  void raise_size(double least_width, double least_height);
+  /// Runs a step whose error the host is not told.
+  template <class Step>
+  static void quietly(Step step) {
+    try {
+      step();
+    } catch (const std::exception&) {
+    }
+  }
+  /// What a setter of a look ends with.
+  void look_changed(const char* property);
+  void notify(const char* property) { container_.changed(property); }
+  /// Hands the events of a widget on to the host.
+  void forward_events(Widget& widget);
+  Container& host() { return container_; }
+
+  bool PlotLimitSet = false;  ///< A limit of `SetPlotLimit` is in force.
+  bool PlotShown = false;     ///< `Plot` has succeeded on the present data.
+  bool PlotValid = false;     ///< The snapshot shows the present drawing: a change of size only stretches it.
+  bool LegendShown = true;
+
+ private:
+  void data_changed();
+  void replot();
+
+  Container& container_;
+  bool sizing_itself_ = false;
+};
+
+}  // namespace mirolen

@@ -1,0 +1,31 @@
+#include "mirolen/widgets/PictureBox.h"
+
+#include <algorithm>
+
+namespace mirolen {
+
+SurfaceSize PictureBox::pixel_size() const {
+  const SurfaceSize pixel = toolkit().twips_per_pixel();
+  return {std::max(1.0, round_half_even(Width / pixel.width)),
+          std::max(1.0, round_half_even(Height / pixel.height))};
+}
+
+Surface* PictureBox::device() const {
+  const SurfaceSize size = pixel_size();
+  if (!surface_ || !(drawn_size_ == size)) {
+    surface_ = toolkit().make_surface(const_cast<PictureBox&>(*this));
+    drawn_size_ = size;
+    drawn_background_ = BackColor;
+  }
+  return surface_.get();
+}
+
+void PictureBox::changed() {
+  if (surface_ && drawn_background_ != BackColor) {
+    drawn_background_ = BackColor;
+    surface_->clear(toolkit().resolve(BackColor));
+  }
+  Widget::changed();
+}
+
+}  // namespace mirolen

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "mirolen/render/PlotCanvas.h"
+#include "mirolen/render/Surface.h"
+
+namespace mirolen {
+
+class PictureBox;
+class Widget;
+
+/// What a toolkit puts behind one widget. It shows the widget's state and brings the user's events to its
+/// handlers.
+class Peer {
+ public:
+  virtual ~Peer() = default;
+  /// A property of the widget has changed: mirror its state.
+  virtual void changed() = 0;
+  /// Repaint what is on the screen.
+  virtual void refresh() = 0;
+  /// The system's handle of the window, 0 without one.
+  virtual std::uintptr_t handle() const = 0;
+};
+
+enum class MessageIcon { none, critical };
+
+/// All that the widgets need of a user interface; a binding supplies one. It outlives every widget made with
+/// it.
+class Toolkit {
+ public:
+  virtual ~Toolkit() = default;
+
+  /// A peer for a widget whose container already has its own; null where nothing is to be shown.
+  virtual std::unique_ptr<Peer> make_peer(Widget& widget) = 0;
+  /// The surface of a picture box, in the size that the box has now, erased to its background.
+  virtual std::unique_ptr<Surface> make_surface(PictureBox& box) = 0;
+  /// Size of a text in pixels.
+  virtual SurfaceSize measure(const FontSpec& font, std::string_view text) const = 0;
+  virtual void set_focus(Widget& widget) = 0;
+  /// Lets events that wait be handled. The host may call anything from there.
+  virtual void run_pending_events() = 0;
+  /// Shows a message modally and waits for its button.
+  virtual void message_box(const std::string& text, const std::string& title, MessageIcon icon) = 0;
+  /// Twips of one pixel of the screen.
+  virtual SurfaceSize twips_per_pixel() const = 0;
+  /// The colour that a system colour (0x80000000 and its index) stands for; any other colour as it is.
+  virtual Color resolve(Color color) const = 0;
+  /// The printer that a new control prints on; null where the system has none.
+  virtual std::shared_ptr<PlotCanvas> default_printer() = 0;
+};
+
+}  // namespace mirolen

@@ -1,0 +1,40 @@
+#include "mirolen/widgets/Widget.h"
+
+#include <algorithm>
+
+namespace mirolen {
+
+Widget::Widget(WidgetKind kind, Toolkit& toolkit) : kind_(kind), toolkit_(toolkit) {}
+
+Widget::Widget(WidgetKind kind, Widget* container)
+    : kind_(kind), toolkit_(container->toolkit_), container_(container) {
+  container->children_.push_back(this);
+}
+
+Widget::~Widget() {
+  if (container_) std::erase(container_->children_, this);
+}
+
+void Widget::Move(double left, std::optional<double> top, std::optional<double> width,
+                  std::optional<double> height) {
+  Left = left;
+  if (top) Top = *top;
+  if (width) Width = *width;
+  if (height) Height = *height;
+}
+
+void Widget::Refresh() {
+  if (peer_) peer_->refresh();
+}
+
+void Widget::realize() {
+  peer_ = toolkit_.make_peer(*this);
+  changed();
+  for (Widget* child : children_) child->realize();
+}
+
+void Widget::changed() {
+  if (peer_) peer_->changed();
+}
+
+}  // namespace mirolen
