@@ -19,7 +19,8 @@ Array::Array(std::int32_t lower, std::int32_t upper) : lower_(lower), values_(le
 
 Array::Array(std::vector<double> values, std::int32_t lower) : lower_(lower), values_(std::move(values)) {
   const std::int64_t upper = std::int64_t{lower} + static_cast<std::int64_t>(values_.size()) - 1;
-  if (upper > std::numeric_limits<std::int32_t>::max()) throw SubscriptOutOfRange();
+  using Bound = std::numeric_limits<std::int32_t>;
+  if (upper > Bound::max() || upper < Bound::min()) throw SubscriptOutOfRange();
 }
 
 double& Array::operator()(std::int32_t index) {

@@ -14,11 +14,14 @@ class Array {
   Array() = default;
   /// Bounds as in (lower To upper), all elements 0. @throws SubscriptOutOfRange if upper < lower - 1.
   Array(std::int32_t lower, std::int32_t upper);
-  /// The values with the bounds (lower To lower + size - 1).
+  /// The values with the bounds (lower To lower + size - 1). @throws SubscriptOutOfRange for an upper bound
+  /// beyond 32 bits.
   explicit Array(std::vector<double> values, std::int32_t lower = 1);
 
   std::int32_t LBound() const { return lower_; }
-  std::int32_t UBound() const { return lower_ + static_cast<std::int32_t>(values_.size()) - 1; }
+  std::int32_t UBound() const {
+    return static_cast<std::int32_t>(lower_ + static_cast<std::int64_t>(values_.size()) - 1);
+  }
 
   /// @throws SubscriptOutOfRange outside the bounds.
   double& operator()(std::int32_t index);

@@ -6,26 +6,20 @@
 
 namespace mirolen {
 
-/// A site as the index holds it, position and zero-based number side by side.
-struct IndexedSite {
-  double x = 0;
-  double y = 0;
-  std::int16_t number = 0;
-};
-
-/// The cells of a square index and the sites in each, all in one contiguous array, row by row (low y first).
+/// The cells of a square index and the zero-based numbers of the sites in each, all in one contiguous array,
+/// row by row (low y first).
 class SiteIndex {
  public:
-  /// A site with the cell that it falls into.
-  struct Entry {
+  /// The cell that a site falls into.
+  struct Cell {
     std::int16_t cx = 0;
     std::int16_t cy = 0;
-    IndexedSite site;
   };
 
-  /// Builds side by side cells, numbered from 0; the sites of a cell keep the order of the entries.
-  /// Cost: one pass over cells and two over entries. @throws SubscriptOutOfRange for an entry outside.
-  SiteIndex(std::int32_t side, std::span<const Entry> entries);
+  /// Builds side by side cells, numbered from 0, from the cell of each site; the sites of a cell keep their
+  /// order. Cost: one pass over the cells and two over the sites. @throws SubscriptOutOfRange for a site
+  /// outside.
+  SiteIndex(std::int32_t side, std::span<const Cell> cells);
   /// The index that has no cell at all.
   SiteIndex() = default;
 
@@ -33,7 +27,7 @@ class SiteIndex {
     return cx >= 0 && cx < side_ && cy >= 0 && cy < side_;
   }
   /// The sites of a cell that the index contains.
-  std::span<const IndexedSite> cell(std::int64_t cx, std::int64_t cy) const;
+  std::span<const std::int16_t> cell(std::int64_t cx, std::int64_t cy) const;
 
   std::int32_t side() const { return side_; }
   std::size_t sites() const { return sites_.size(); }
@@ -45,7 +39,7 @@ class SiteIndex {
 
   std::int32_t side_ = 0;
   std::vector<std::uint32_t> first_;
-  std::vector<IndexedSite> sites_;
+  std::vector<std::int16_t> sites_;
 };
 
 }  // namespace mirolen

@@ -87,8 +87,10 @@ double wafer::mean_of_near_sites(double Xa, double Ya) const {
   NearestFour nearest(std::isfinite(sentinel) ? sentinel : 0, 4 * WaferOrigRad, 0);
   const auto insert_cell = [&](std::int64_t cx, std::int64_t cy) {
     if (!SiteCells.contains(cx, cy)) return;
-    for (const IndexedSite& site : SiteCells.cell(cx, cy))
-      nearest.insert(site.number, distance(Xa, Ya, site.x, site.y));
+    for (const std::int16_t site : SiteCells.cell(cx, cy)) {
+      const Position& at = GridPos[static_cast<std::size_t>(site)];
+      nearest.insert(site, distance(Xa, Ya, at.x, at.y));
+    }
   };
 
   const double cx = Xa / GridCell;

@@ -26,7 +26,7 @@ void wafer::MaxMin() {
   maximal = maxi;
   minimal = mini;
   Summe_Value = sum;
-  mean = sum / Nop;
+  mean = divide(sum, Nop);
   set_scale(maxi, mini);
 
   if (Nop < 2) return;
@@ -76,15 +76,11 @@ void wafer::BuildSiteCells() {
   GridCell = n >= 4 ? square_root(checked(R * R * Pi * 4) / n) : 2 * R;
   HalfCells = to_int16(divide(R, GridCell));
 
-  std::vector<SiteIndex::Entry> entries;
-  entries.reserve(GridPos.size());
-  for (const Position& site : GridPos) {
-    const auto number = static_cast<std::int16_t>(entries.size());
-    entries.push_back({to_int16(site.x / GridCell + HalfCells),
-                       to_int16(site.y / GridCell + HalfCells),
-                       {site.x, site.y, number}});
-  }
-  SiteCells = SiteIndex(2 * HalfCells + 1, entries);
+  std::vector<SiteIndex::Cell> cells;
+  cells.reserve(GridPos.size());
+  for (const Position& site : GridPos)
+    cells.push_back({to_int16(site.x / GridCell + HalfCells), to_int16(site.y / GridCell + HalfCells)});
+  SiteCells = SiteIndex(2 * HalfCells + 1, cells);
 }
 
 }  // namespace mirolen

@@ -18,6 +18,7 @@ class CaptionLabel;
 class ColorBox;
 class IndicatorLine;
 class IndicatorMark;
+class Painter;
 class PlotCanvas;
 class ValueLabel;
 
@@ -158,6 +159,8 @@ class wafer {
               double left, double top, double width, double height, std::int16_t ShowDispl);
 
  private:
+  friend class Painter;
+
   struct Position {
     double x = 0;
     double y = 0;
@@ -165,7 +168,6 @@ class wafer {
   struct Chord {
     double scanStartX = 0, scanStartY = 0, scanEndX = 0, scanEndY = 0;
   };
-  class MapPainter;
 
   void store_site(std::int32_t site, double x, double y, double Z);
   std::size_t place_of(std::int32_t site) const;

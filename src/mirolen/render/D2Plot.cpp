@@ -5,7 +5,7 @@
 
 #include "mirolen/core/wafer.h"
 #include "mirolen/render/ColorScale.h"
-#include "mirolen/render/PlotArea.h"
+#include "mirolen/render/Painter.h"
 
 namespace mirolen {
 namespace {
@@ -16,11 +16,9 @@ constexpr double unpainted = 15.0;  // a colour of this very value leaves a cell
 constexpr double no_data = 0;       // scaled height of a point outside the wafer
 constexpr std::int16_t fewest_cells = 4, most_cells = 100;  // from the centre to the edge
 
-}  // namespace
-
 /// One call of `D2Plot`. A colour map is a mosaic of square cells, drawn from the top right corner leftward
 /// and down; the value at each grid node is interpolated once, and a row of them is kept for the cells below.
-class wafer::MapPainter {
+class MapPainter : Painter {
  public:
   /// What `D2Plot` was asked for.
   struct Request {
@@ -29,8 +27,8 @@ class wafer::MapPainter {
     double SigmaRange;
   };
 
-  MapPainter(mirolen::wafer& wafer, PlotCanvas& canvas, const Request& request, PlotArea& area)
-      : wafer_(wafer), canvas_(canvas), request_(request), area_(area) {}
+  MapPainter(wafer& wafer, PlotCanvas& canvas, const Request& request, PlotArea& area)
+      : Painter(wafer, canvas, area), request_(request) {}
 
   void set_up();
   void paint_map();
@@ -53,7 +51,6 @@ class wafer::MapPainter {
   double band_color_of(double zc) const;
   double sigma_color_of(double zc) const;
   void box(double x1, double y1, double x2, double y2, Color color);
-  void show();
 
   bool inside(double x, double y) const { return y > flat_limit_ && x * x + y * y <= radius_square_; }
   double norm(double z) const { return (z - wafer_.Low) * S_ / (high_ - wafer_.Low); }
@@ -67,10 +64,7 @@ class wafer::MapPainter {
     return {columns_[static_cast<std::size_t>(node.gx + n_)], lines_[static_cast<std::size_t>(node.gy + n_)]};
   }
 
-  mirolen::wafer& wafer_;
-  PlotCanvas& canvas_;
   Request request_;
-  PlotArea& area_;
 
   double high_ = 0, low_ = 0;  // the ends of the colour scale
   std::int16_t long_arm_ = 0, short_arm_ = 0, black_arm_ = 0;
@@ -83,7 +77,7 @@ class wafer::MapPainter {
   std::vector<double> row_;                    // scaled heights of the grid line above the present row
 };
 
-void wafer::MapPainter::set_up() {
+void MapPainter::set_up() {
   set_scale_ends();
   area_.locate();
   set_mark_sizes();
@@ -91,22 +85,22 @@ void wafer::MapPainter::set_up() {
   set_mapping();
 }
 
-void wafer::MapPainter::set_scale_ends() {
-  area_.resume([&] {
+void MapPainter::set_scale_ends() {
+  resume([&] {
     const ScaleEnds ends = scale_ends(wafer_);
     high_ = ends.high;
     low_ = ends.low;
   });
-  area_.resume([&] {
+  resume([&] {
     wafer_.Low = high_ == low_ ? base_of_equal_limits(low_) : checked(low_ - (high_ - low_) * 0.1);
   });
 }
 
-void wafer::MapPainter::set_mark_sizes() {
+void MapPainter::set_mark_sizes() {
   if (canvas_.kind() == CanvasKind::printer) {
-    area_.resume([&] { long_arm_ = to_int16(12 * canvas_.TwipsPerPixelX()); });
-    area_.resume([&] { short_arm_ = to_int16(4 * canvas_.TwipsPerPixelY()); });
-    area_.resume([&] { black_arm_ = to_int16(6 * canvas_.TwipsPerPixelX()); });
+    resume([&] { long_arm_ = to_int16(12 * canvas_.TwipsPerPixelX()); });
+    resume([&] { short_arm_ = to_int16(4 * canvas_.TwipsPerPixelY()); });
+    resume([&] { black_arm_ = to_int16(6 * canvas_.TwipsPerPixelX()); });
   } else {
     long_arm_ = 6;
     short_arm_ = 2;
@@ -114,10 +108,10 @@ void wafer::MapPainter::set_mark_sizes() {
   }
 }
 
-void wafer::MapPainter::set_grid() {
+void MapPainter::set_grid() {
   const bool whole_wafer = request_.as_color_map && request_.SigmaRange != 0;
   const double d = whole_wafer ? wafer_.WafDiam : wafer_.test_diam;
-  area_.resume([&] {
+  resume([&] {
     // More cells than a 16-bit number counts are too many all the same.
     const double cells = divide(d / 2, request_.res);
     n_ = cells > most_cells ? most_cells + 1 : to_int16(cells);
@@ -132,31 +126,31 @@ void wafer::MapPainter::set_grid() {
   }
 }
 
-void wafer::MapPainter::set_mapping() {
-  area_.resume([&] {
+void MapPainter::set_mapping() {
+  resume([&] {
     const double x = divide(area_.width - margin, 2 * n_ * request_.res);
     const double y = divide(area_.height - margin, 2 * n_ * request_.res);
     S_ = x < y ? x : y;
   });
   cx_ = area_.left + area_.width / 2;
   cy_ = area_.top + area_.height / 2;
-  area_.resume([&] { band_ = checked(S_ * (1 - divide((high_ - low_) * 0.1, high_ - wafer_.Low)) / 10); });
+  resume([&] { band_ = checked(S_ * (1 - divide((high_ - low_) * 0.1, high_ - wafer_.Low)) / 10); });
   flat_limit_ = -(wafer_.flat_ratio - 0.5) * wafer_.WafDiam;
-  area_.resume([&] { radius_square_ = checked(wafer_.test_diam / 2 * (wafer_.test_diam / 2)); });
-  area_.resume([&] { sigma_low_ = checked(norm(wafer_.mean - request_.SigmaRange * wafer_.StdDev)); });
-  area_.resume([&] { sigma_high_ = checked(norm(request_.SigmaRange * wafer_.StdDev + wafer_.mean)); });
+  resume([&] { radius_square_ = checked(wafer_.test_diam / 2 * (wafer_.test_diam / 2)); });
+  resume([&] { sigma_low_ = checked(norm(wafer_.mean - request_.SigmaRange * wafer_.StdDev)); });
+  resume([&] { sigma_high_ = checked(norm(request_.SigmaRange * wafer_.StdDev + wafer_.mean)); });
 
   const auto nodes = static_cast<std::size_t>(2 * n_ + 1);
   columns_.assign(nodes, 0);
   lines_.assign(nodes, 0);
   for (std::size_t at = 0; at < nodes; ++at) {
     const double k = static_cast<int>(at) - n_;
-    area_.resume([&] { columns_[at] = to_int32(cx_ + k * request_.res * S_); });
-    area_.resume([&] { lines_[at] = to_int32(cy_ - k * request_.res * S_); });
+    resume([&] { columns_[at] = to_int32(cx_ + k * request_.res * S_); });
+    resume([&] { lines_[at] = to_int32(cy_ - k * request_.res * S_); });
   }
 }
 
-void wafer::MapPainter::paint_map() {
+void MapPainter::paint_map() {
   paint_disc();
   row_.resize(columns_.size());
   for (int i = 0; i <= 2 * n_; ++i) row_[static_cast<std::size_t>(i)] = node_height({n_ - i, n_});
@@ -167,15 +161,15 @@ void wafer::MapPainter::paint_map() {
   show();
 }
 
-void wafer::MapPainter::paint_disc() {
-  area_.resume([&] { canvas_.FillStyle(solid_fill); });
-  area_.resume([&] { canvas_.FillColor(QBColor(15)); });
-  area_.resume([&] { canvas_.DrawStyle(solid_line); });
-  area_.resume([&] { canvas_.DrawWidth(1); });
-  area_.resume([&] { canvas_.Circle(cx_, cy_, S_ * wafer_.test_diam / 2, QBColor(15)); });
+void MapPainter::paint_disc() {
+  resume([&] { canvas_.FillStyle(solid_fill); });
+  resume([&] { canvas_.FillColor(QBColor(15)); });
+  resume([&] { canvas_.DrawStyle(solid_line); });
+  resume([&] { canvas_.DrawWidth(1); });
+  resume([&] { canvas_.Circle(cx_, cy_, S_ * wafer_.test_diam / 2, QBColor(15)); });
 }
 
-void wafer::MapPainter::paint_row(int j) {
+void MapPainter::paint_row(int j) {
   double zC = 0;
   for (int i = 0; i < 2 * n_; ++i) {
     const Corner A{n_ - i, n_ - j}, B{n_ - i - 1, n_ - j}, C{n_ - i - 1, n_ - j - 1}, D{n_ - i, n_ - j - 1};
@@ -190,7 +184,7 @@ void wafer::MapPainter::paint_row(int j) {
   row_.back() = zC;
 }
 
-void wafer::MapPainter::paint_cell(const std::array<Corner, 4>& corners, std::array<double, 4> heights) {
+void MapPainter::paint_cell(const std::array<Corner, 4>& corners, std::array<double, 4> heights) {
   const auto outside = std::count(heights.begin(), heights.end(), no_data);
   if (outside == 1 || outside == 2)
     for (std::size_t corner = 0; corner < 4; ++corner)
@@ -198,22 +192,22 @@ void wafer::MapPainter::paint_cell(const std::array<Corner, 4>& corners, std::ar
   const auto [zA, zB, zC, zD] = heights;
   const double zc = (zA + zB + zD + zC) / 4;
 
-  area_.resume([&] { canvas_.DrawStyle(no_outline); });
+  resume([&] { canvas_.DrawStyle(no_outline); });
   const double color = zc == no_data || outside > 2 ? unpainted : cell_color(zc);
   if (color == unpainted) return;
-  area_.resume([&] { canvas_.FillColor(to_color(color)); });
-  area_.resume([&] { canvas_.FillStyle(solid_fill); });
-  area_.resume([&] {
+  resume([&] { canvas_.FillColor(to_color(color)); });
+  resume([&] { canvas_.FillStyle(solid_fill); });
+  resume([&] {
     const std::array points{pixel(corners[0]), pixel(corners[1]), pixel(corners[2]), pixel(corners[3])};
     canvas_.Polygon(points);
   });
 }
 
-double wafer::MapPainter::cell_color(double zc) const {
+double MapPainter::cell_color(double zc) const {
   return request_.as_color_map ? band_color_of(zc) : sigma_color_of(zc);
 }
 
-double wafer::MapPainter::band_color_of(double zc) const {
+double MapPainter::band_color_of(double zc) const {
   if (high_ == low_) return wafer_.col6;
   double color = unpainted;
   if (zc >= S_ - band_) color = wafer_.col1;
@@ -223,21 +217,20 @@ double wafer::MapPainter::band_color_of(double zc) const {
   return color;
 }
 
-double wafer::MapPainter::sigma_color_of(double zc) const {
+double MapPainter::sigma_color_of(double zc) const {
   const bool flat_data = wafer_.maxi == wafer_.mini;
   if (!flat_data && zc < sigma_low_) return wafer_.ColS3;
   if (!flat_data && zc > sigma_high_) return wafer_.ColS1;
   return wafer_.ColS2;
 }
 
-void wafer::MapPainter::mark_sites() {
-  std::int16_t sites = 0;
-  area_.resume([&] { sites = to_int16(static_cast<double>(wafer_.GridVal.size())); });
-  for (std::int32_t k = 1; k <= sites; ++k) {
-    const Position& site = wafer_.position_of(k);
-    const bool high = wafer_.value_of(k) >= wafer_.mean;
-    const double px = cx_ + S_ * site.x;
-    const double py = cy_ - S_ * site.y;
+void MapPainter::mark_sites() {
+  std::int16_t count = 0;
+  resume([&] { count = sites(); });
+  for (std::int32_t k = 1; k <= count; ++k) {
+    const bool high = value(k) >= wafer_.mean;
+    const double px = cx_ + S_ * position(k).x;
+    const double py = cy_ - S_ * position(k).y;
     box(px - long_arm_, py - short_arm_, px + long_arm_, py + short_arm_, QBColor(15));
     if (high) box(px - short_arm_, py - long_arm_, px + short_arm_, py + long_arm_, QBColor(15));
     box(px - black_arm_, py, px + black_arm_, py, QBColor(0));
@@ -246,22 +239,17 @@ void wafer::MapPainter::mark_sites() {
   }
 }
 
-void wafer::MapPainter::box(double x1, double y1, double x2, double y2, Color color) {
-  area_.resume([&] { canvas_.Line(filled_box_flags, x1, y1, x2, y2, color); });
+void MapPainter::box(double x1, double y1, double x2, double y2, Color color) {
+  resume([&] { canvas_.Line(filled_box_flags, x1, y1, x2, y2, color); });
 }
 
-void wafer::MapPainter::show() {
-  if (canvas_.kind() == CanvasKind::picture_box) area_.resume([&] { canvas_.Refresh(); });
-}
+}  // namespace
 
 void wafer::D2Plot(PlotCanvas& Plot, double res, std::int16_t PlotStyle, double SigmaRange,
                    std::int16_t marksites, double left, double top, double width, double height,
                    std::int16_t ShowDispl) {
   PlotArea area(Plot, left, top, width, height, ShowDispl);
-  if (!area.on_page()) {
-    area.resume([&] { Plot.Cls(); });
-    area.resume([&] { Plot.Refresh(); });
-  }
+  area.clear();
   MapPainter painter(*this, Plot, {res, PlotStyle == color_map, SigmaRange}, area);
   painter.set_up();
   if (Nop > 3) painter.paint_map();

@@ -7,25 +7,38 @@ constexpr double fallback_twips_per_pixel = 4.8;
 
 }  // namespace
 
+void PlotArea::clear() {
+  if (on_page_) return;
+  resume([&] { canvas_.Cls(); });
+  resume([&] { canvas_.Refresh(); });
+}
+
 void PlotArea::locate() {
   if (in_twips()) {
-    resume([&] { left = divide(page_.left, twips_x()); });
-    resume([&] { width = divide(page_.width, twips_x()); });
-    resume([&] { top = divide(page_.top, twips_y()); });
-    resume([&] { height = divide(page_.height, twips_y()); });
+    resume([&] { left = edge(divide(page_.left, twips_x())); });
+    resume([&] { width = edge(divide(page_.width, twips_x())); });
+    resume([&] { top = edge(divide(page_.top, twips_y())); });
+    resume([&] { height = height_edge(divide(page_.height, twips_y())); });
   } else {
-    resume([&] { left = canvas_.ScaleLeft(); });
-    resume([&] { width = canvas_.ScaleWidth(); });
-    resume([&] { top = canvas_.ScaleTop(); });
-    resume([&] { height = canvas_.ScaleHeight(); });
+    resume([&] { left = edge(canvas_.ScaleLeft()); });
+    resume([&] { width = edge(canvas_.ScaleWidth()); });
+    resume([&] { top = edge(canvas_.ScaleTop()); });
+    resume([&] { height = height_edge(canvas_.ScaleHeight()); });
   }
 }
 
 void PlotArea::fall_back() {
-  left = page_.left / fallback_twips_per_pixel;
-  width = page_.width / fallback_twips_per_pixel;
-  top = page_.top / fallback_twips_per_pixel;
-  height = page_.height / fallback_twips_per_pixel;
+  const auto keep_if_too_large = [](double& target, auto value) {
+    try {
+      target = value();
+    } catch (const OverflowError&) {
+      // What even the fallback cannot hold stays as it was.
+    }
+  };
+  keep_if_too_large(left, [&] { return edge(page_.left / fallback_twips_per_pixel); });
+  keep_if_too_large(width, [&] { return edge(page_.width / fallback_twips_per_pixel); });
+  keep_if_too_large(top, [&] { return edge(page_.top / fallback_twips_per_pixel); });
+  keep_if_too_large(height, [&] { return height_edge(page_.height / fallback_twips_per_pixel); });
 }
 
 double PlotArea::twips_x() const {

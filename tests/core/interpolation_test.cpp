@@ -1,0 +1,452 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "core_support.h"
+#include "mirolen/core/wafer.h"
+#include "plain_wafer.h"
+
+namespace mirolen {
+namespace {
+
+constexpr double kDiameter = 200;
+
+class FiveSites : public testing::Test {
+ protected:
+  FiveSites() {
+    set_diameters(sample, kDiameter, kDiameter);
+    load(sample, {{0, 0, 10}, {40, 0, 20}, {0, 40, 30}, {-40, 0, 40}, {0, -40, 50}});
+  }
+
+  wafer sample;
+};
+
+/// A ring of n sites round the centre with the values 1 to n.
+Sites ring_of_sites(int n, double radius) {
+  Sites sites;
+  for (int i = 0; i < n; ++i) {
+    const double angle = 2 * 3.14159265358979 * i / n;
+    sites.push_back({radius * std::cos(angle), radius * std::sin(angle), i + 1.0});
+  }
+  return sites;
+}
+
+double weighted_mean(const std::vector<std::pair<double, double>>& distances_and_values) {
+  double above = 0, below = 0;
+  for (const auto& [distance, value] : distances_and_values) {
+    above += value / (distance * distance);
+    below += 1 / (distance * distance);
+  }
+  return above / below;
+}
+
+TEST(Interpolation, IsZeroEverywhereWithThreeSites) {
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  load(sample, {{0, 0, 10}, {40, 0, 20}, {0, 40, 30}});
+  for (const auto& [x, y] : {std::pair{0.0, 0.0}, {40.0, 0.0}, {12.0, -7.0}, {500.0, 500.0}}) {
+    EXPECT_EQ(sample.Interpolation(x, y), 0);
+    EXPECT_EQ(sample.Interpolation_Einfach(x, y), 0);
+  }
+}
+
+TEST(Interpolation, IsZeroWithoutSites) {
+  const wafer sample;
+  EXPECT_EQ(sample.Interpolation(0, 0), 0);
+  EXPECT_EQ(sample.Interpolation_Einfach(0, 0), 0);
+}
+
+TEST_F(FiveSites, GiveTheValueOfASiteOnThatSite) {
+  EXPECT_EQ(sample.Interpolation_Einfach(40, 0), 20);
+  EXPECT_EQ(sample.Interpolation(40, 0), 20);
+}
+
+TEST_F(FiveSites, GiveTheValueOfASiteWithinTheToleranceRoundIt) {
+  EXPECT_EQ(sample.Interpolation_Einfach(40.00005, 0), 20);
+  EXPECT_EQ(sample.Interpolation(40, -0.00005), 20);
+}
+
+TEST_F(FiveSites, GiveAWeightedMeanOutsideTheToleranceRoundASite) {
+  const double x = 40.0002;
+  const double aside = std::hypot(x, 40);
+  // The sites above and below are equally far; both are among the four nearest, the one opposite is not.
+  const double expected = weighted_mean({{x - 40, 20}, {x, 10}, {aside, 30}, {aside, 50}});
+  EXPECT_DOUBLE_EQ(sample.Interpolation_Einfach(x, 0), expected);
+  EXPECT_DOUBLE_EQ(sample.Interpolation(x, 0), expected);
+  EXPECT_NE(sample.Interpolation(x, 0), 20);
+}
+
+TEST_F(FiveSites, WeighTheFourNearestByTheInverseSquareOfTheirDistance) {
+  const double aside = std::hypot(10, 40);
+  const double expected = weighted_mean({{10, 10}, {30, 20}, {aside, 30}, {aside, 50}});
+  EXPECT_DOUBLE_EQ(sample.Interpolation(10, 0), expected);
+  EXPECT_DOUBLE_EQ(sample.Interpolation_Einfach(10, 0), expected);
+}
+
+TEST_F(FiveSites, GiveZeroWhereFewerThanFourLieWithinOneAndAHalfDiameters) {
+  EXPECT_EQ(sample.Interpolation(5000, 0), 0);
+  EXPECT_THROW(sample.Interpolation_Einfach(5000, 0), RunTimeError);
+}
+
+TEST(Interpolation, OfFourEquallyFarSitesIsTheirMean) {
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  load(sample, {{32, 0, 1}, {0, 32, 2}, {-32, 0, 4}, {0, -32, 9}});
+  EXPECT_EQ(sample.Interpolation(0, 0), 4);
+  EXPECT_EQ(sample.Interpolation_Einfach(0, 0), 4);
+}
+
+TEST(Interpolation, KeepsTheFirstFourOfFiveEquallyFarSites) {
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  load(sample, {{32, 0, 1}, {0, 32, 2}, {-32, 0, 4}, {0, -32, 9}, {32, 0, 1000}});
+  EXPECT_EQ(sample.Interpolation(0, 0), 4);
+}
+
+TEST(Interpolation, OfFewSitesGoesByTheWaferDiameterNotTheTestDiameter) {
+  wafer sample;
+  set_diameters(sample, kDiameter, 0);
+  load(sample, {{32, 0, 1}, {0, 32, 2}, {-32, 0, 4}, {0, -32, 9}});
+  EXPECT_EQ(sample.Interpolation(0, 0), 4);
+}
+
+TEST(Interpolation, WithoutATestDiameterIsTheValueOfTheFirstSite) {
+  wafer sample;
+  set_diameters(sample, kDiameter, 0);
+  load(sample, ring_of_sites(12, 50));
+  for (const auto& [x, y] : {std::pair{0.0, 0.0}, {-50.0, 0.0}, {70.0, 70.0}, {900.0, 0.0}}) {
+    EXPECT_EQ(sample.Interpolation(x, y), 1) << x << ' ' << y;
+  }
+}
+
+TEST(Interpolation, OnASiteOfManyIsItsValue) {
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  const Sites sites = ring_of_sites(12, 50);
+  load(sample, sites);
+  for (const Site& site : sites) {
+    EXPECT_EQ(sample.Interpolation(site.x, site.y), site.z);
+    EXPECT_EQ(sample.Interpolation(site.x + 0.00005, site.y), site.z);
+    EXPECT_NE(sample.Interpolation(site.x + 0.0002, site.y), site.z);
+  }
+}
+
+/// 100 sites in cells of 35 mm: the given ones and, too far from the left half to be met there, the rest.
+Sites with_the_rest_far_right(Sites sites) {
+  sites.resize(100, {95, 0, 5});
+  return sites;
+}
+
+TEST(Interpolation, CountsTheFirstOfTwoSitesFoundAgainAtFourRadii) {
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  load(sample, with_the_rest_far_right({{-88, 0, 1000}, {-80, 0, 1}}));
+  EXPECT_DOUBLE_EQ(sample.Interpolation(-83, 0),
+                   weighted_mean({{3, 1}, {5, 1000}, {400, 1000}, {400, 1000}}));
+  load(sample, with_the_rest_far_right({{-80, 0, 1}, {-88, 0, 1000}}));
+  EXPECT_DOUBLE_EQ(sample.Interpolation(-83, 0), weighted_mean({{3, 1}, {5, 1000}, {400, 1}, {400, 1}}));
+}
+
+TEST(Interpolation, FillsEmptySlotsWithTheFirstSiteInASmallTestCircle) {
+  wafer sample;
+  set_diameters(sample, kDiameter, 6);
+  load(sample, with_the_rest_far_right({{90, 20, 1000}, {-80, 0, 1}}));
+  EXPECT_DOUBLE_EQ(sample.Interpolation(-84, 0), weighted_mean({{4, 1}, {81, 1000}, {81, 1000}, {81, 1000}}));
+}
+
+TEST(Interpolation, FarOutsideFindsNothingAndTakesTheFirstSite) {
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  load(sample, ring_of_sites(12, 50));
+  for (const double far : {3000.0, 1e5, 3e6, 1e9}) {
+    EXPECT_NEAR(sample.Interpolation(far, 0), 1, 1e-12) << far;
+    EXPECT_NEAR(sample.Interpolation(-far, -far), 1, 1e-12) << far;
+  }
+}
+
+TEST(Interpolation, OutsideTheIndexStillFindsTheSitesInTheRings) {
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  load(sample, ring_of_sites(12, 90));
+  // The first ring of cells of 102 mm meets three sites; the first of them fills the last slot.
+  const double aside = std::hypot(250 - 90 * std::sqrt(0.75), 45);
+  EXPECT_NEAR(sample.Interpolation(250, 0), weighted_mean({{160, 1}, {aside, 2}, {aside, 12}, {400, 1}}),
+              1e-9);
+}
+
+TEST(Interpolation, StaysWithHomeCellNumbersBeyondSixteenBits) {
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  load(sample, ring_of_sites(12, 50));
+  // So wide a test circle lets the search take sites from there; its rings still end far short of them.
+  sample.test_diam = 10000;
+  const double cell = std::sqrt(100 * 100 * 3.14159265358979 * 4 / 12);
+  EXPECT_NEAR(sample.Interpolation(40000 * cell, 0), 1, 1e-12);
+  EXPECT_NEAR(sample.Interpolation(0, -40000 * cell), 1, 1e-12);
+}
+
+TEST(Interpolation, WithoutAnIndexCellFindsNothingAndTakesTheFirstSite) {
+  wafer sample;
+  const Sites sites = ring_of_sites(12, 50);
+  EXPECT_THROW(load(sample, sites), RunTimeError);
+  sample.test_diam = kDiameter;
+  sample.WaferOrigRad = kDiameter / 2;
+  EXPECT_NEAR(sample.Interpolation(sites[5].x, sites[5].y), 1, 1e-12);
+  EXPECT_NEAR(sample.Interpolation(0, 0), 1, 1e-12);
+}
+
+TEST(Interpolation, NeverThrowsAndIsAlwaysANumber) {
+  for (const int count : {0, 3, 5, 12}) {
+    wafer sample;
+    set_diameters(sample, kDiameter, kDiameter);
+    if (count > 0) load(sample, ring_of_sites(count, 50));
+    for (const double x : {0.0, 1e160, -1e308, 5e-324, kInfinity, -kInfinity, kNaN}) {
+      for (const double y : {0.0, -1e160, kInfinity, kNaN}) {
+        EXPECT_TRUE(std::isfinite(sample.Interpolation(x, y))) << count << ": " << x << ' ' << y;
+      }
+    }
+  }
+}
+
+TEST(Interpolation, IsZeroWhereTheMeanLeavesTheNumbers) {
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  store(sample, {{0.001, 0, 1e305}, {0, 0.001, 1}, {-0.001, 0, 1}, {0, -0.001, 1}});
+  EXPECT_EQ(sample.Interpolation(0, 0), 0);
+  EXPECT_GT(sample.Interpolation(10, 0), 1e304);
+}
+
+TEST(Interpolation, SearchesByCellsFromTenSitesUp) {
+  Sites sites{{-80, 0, 100}};
+  sites.resize(10, {80, 0, 1});
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  load(sample, sites);
+  // The cells are 112 mm wide: the search from the left ends before it comes to those on the right.
+  EXPECT_NEAR(sample.Interpolation(-90, 0), 100, 1e-9);
+  sites.pop_back();
+  load(sample, sites);
+  const double of_all = weighted_mean({{10, 100}, {170, 1}, {170, 1}, {170, 1}});
+  EXPECT_DOUBLE_EQ(sample.Interpolation(-90, 0), of_all);
+  EXPECT_LT(of_all, 99.5);
+}
+
+TEST(Interpolation, KeepsAnOldIndexUnusedBelowTenSites) {
+  const Sites ten = ring_of_sites(10, 40);
+  const Sites nine = ring_of_sites(9, 70);
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  load(sample, ten);
+  const double before = sample.Interpolation(11, 13);
+  load(sample, nine);
+  EXPECT_EQ(sample.Interpolation(11, 13), sample.Interpolation_Einfach(11, 13));
+  store(sample, ten);
+  EXPECT_EQ(sample.Interpolation(11, 13), before);
+}
+
+TEST(Interpolation, SeesAnOverwrittenSiteWithoutNewStatistics) {
+  Sites sites = ring_of_sites(12, 50);
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  load(sample, sites);
+  const Site moved{sites[3].x + 1, sites[3].y + 1, 77};
+  sample.OverwriteGridValue(4, moved.x, moved.y, moved.z);
+  EXPECT_EQ(sample.Interpolation(moved.x, moved.y), 77);
+  EXPECT_NE(sample.Interpolation(sites[3].x, sites[3].y), sites[3].z);
+}
+
+// ---- Against the plain algorithm ----
+
+enum class Layout { kUniform, kGrid, kDuplicates, kClusters, kLine };
+
+void PrintTo(Layout layout, std::ostream* out) {
+  static const std::vector<std::string> names{"Uniform", "Grid", "Duplicates", "Clusters", "Line"};
+  *out << names[static_cast<std::size_t>(layout)];
+}
+
+Site anywhere(Random& random, double radius) {
+  for (;;) {
+    const Site site{between(random, -radius, radius), between(random, -radius, radius), 0};
+    if (std::hypot(site.x, site.y) <= radius) return site;
+  }
+}
+
+/// Positions inside the wafer; a grid has exact ties, its sites come row by row.
+Sites positions(Random& random, Layout layout, int count, double radius) {
+  Sites sites;
+  const Site centre = anywhere(random, radius * 0.8);
+  const double angle = between(random, 0.0, 6.28);
+  const int side = static_cast<int>(std::ceil(std::sqrt(count)));
+  const double pitch = radius / side;
+  for (int i = 0; i < count; ++i) {
+    Site site = anywhere(random, radius);
+    const double spread = between(random, -0.1, 0.1) * radius;
+    if (layout == Layout::kGrid) site = {(i % side - side / 2) * pitch, (i / side - side / 2) * pitch, 0};
+    if (layout == Layout::kDuplicates && i > 0 && chance(random, 0.6)) site = one_of(random, sites);
+    if (layout == Layout::kClusters) site = {centre.x + spread, centre.y + site.y * 0.01, 0};
+    if (layout == Layout::kLine) site = {9 * spread * std::cos(angle), 9 * spread * std::sin(angle), 0};
+    sites.push_back(site);
+  }
+  return sites;
+}
+
+/// The same data in both wafers.
+struct Pair {
+  wafer real;
+  PlainWafer plain;
+  double radius = 0;
+
+  void set(double diameter, double test_diameter) {
+    radius = diameter / 2;
+    set_diameters(real, diameter, test_diameter);
+    plain.WafDiam = diameter, plain.WaferOrigRad = diameter / 2, plain.test_diam = test_diameter;
+  }
+
+  void load_both(const Sites& sites) {
+    load(real, sites);
+    plain.reset();
+    plain.SetNop(static_cast<double>(sites.size()));
+    for (const Site& site : sites) plain.SetGridValue(site);
+    plain.MaxMin();
+  }
+};
+
+void fill_with_random_sites(Random& random, Layout layout, int count, Pair& pair) {
+  const double diameter = one_of<double>(random, {50, 100, 200, 300, 450});
+  const double share = one_of<double>(random, {0, 1e-7, 1e-3, 0.03, 0.3, 0.98, 1, 1, 1, 2});
+  pair.set(diameter, diameter * share);
+  Sites sites = positions(random, layout, count, pair.radius);
+  const bool all_equal = chance(random, 0.15);
+  const double low = between(random, -1000.0, 1000.0);
+  for (Site& site : sites) site.z = all_equal ? low : between(random, low, low + 100);
+  pair.load_both(sites);
+}
+
+/// On sites, a hair beside them, half way between two (ties on a grid), anywhere and outside.
+Site point_of_interest(Random& random, const Pair& pair) {
+  const Site site = one_of(random, pair.plain.sites());
+  const Site other = one_of(random, pair.plain.sites());
+  const double hair = between(random, -0.0002, 0.0002);
+  switch (between(random, 0, 9)) {
+    case 0:
+      return site;
+    case 1:
+      return {site.x + hair, site.y, 0};
+    case 2:
+      return {(site.x + other.x) / 2, (site.y + other.y) / 2, 0};
+    case 3:
+      return {site.x, other.y, 0};
+    case 4:
+      return anywhere(random, 3 * pair.radius);
+    case 5:
+      return anywhere(random, 12 * pair.radius);
+    default:
+      return anywhere(random, pair.radius);
+  }
+}
+
+void expect_same_bits(const Pair& pair, const Site& point) {
+  const double expected = pair.plain.Interpolation(point.x, point.y);
+  const double result = pair.real.Interpolation(point.x, point.y);
+  ASSERT_EQ(std::bit_cast<std::uint64_t>(result), std::bit_cast<std::uint64_t>(expected))
+      << result << " instead of " << expected << " at (" << point.x << ", " << point.y << ") among "
+      << pair.plain.GetNop() << " sites, radius " << pair.radius << ", test diameter "
+      << pair.plain.test_diam;
+}
+
+class InterpolationOfRandomSites : public RandomInput, public testing::WithParamInterface<Layout> {
+ protected:
+  int some_count() {
+    if (chance(random, 0.3)) return one_of<int>(random, {4, 5, 9, 10, 11, 2000});
+    return static_cast<int>(std::exp(between(random, std::log(4.0), std::log(2000.0))));
+  }
+};
+
+std::string name_of(const testing::TestParamInfo<Layout>& layout) {
+  return testing::PrintToString(layout.param);
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, InterpolationOfRandomSites,
+                         testing::Values(Layout::kUniform, Layout::kGrid, Layout::kDuplicates,
+                                         Layout::kClusters, Layout::kLine),
+                         name_of);
+
+TEST_P(InterpolationOfRandomSites, EqualsThePlainAlgorithmToTheLastBit) {
+  for (int set = 0; set < 120; ++set) {
+    Pair pair;
+    fill_with_random_sites(random, GetParam(), some_count(), pair);
+    for (int i = 0; i < 250; ++i) {
+      ASSERT_NO_FATAL_FAILURE(expect_same_bits(pair, point_of_interest(random, pair)));
+    }
+  }
+}
+
+TEST_P(InterpolationOfRandomSites, EqualsThePlainAlgorithmAfterSitesWereOverwritten) {
+  for (int set = 0; set < 10; ++set) {
+    Pair pair;
+    fill_with_random_sites(random, GetParam(), some_count(), pair);
+    for (int i = 0; i < 100; ++i) {
+      const int number = between(random, 1, static_cast<int>(pair.plain.GetNop()));
+      Site site = anywhere(random, pair.radius);
+      site.z = between(random, 1.0, 9.0);
+      pair.real.OverwriteGridValue(static_cast<std::int16_t>(number), site.x, site.y, site.z);
+      pair.plain.OverwriteGridValue(number, site);
+      ASSERT_NO_FATAL_FAILURE(expect_same_bits(pair, point_of_interest(random, pair)));
+    }
+  }
+}
+
+TEST_P(InterpolationOfRandomSites, GivesTheSameResultForTheSamePoint) {
+  Pair pair;
+  fill_with_random_sites(random, GetParam(), 200, pair);
+  std::vector<Site> points;
+  std::vector<double> results;
+  for (int i = 0; i < 200; ++i) {
+    points.push_back(point_of_interest(random, pair));
+    results.push_back(pair.real.Interpolation(points.back().x, points.back().y));
+  }
+  for (std::size_t i = points.size(); i-- > 0;) {
+    EXPECT_EQ(pair.real.Interpolation(points[i].x, points[i].y), results[i]);
+  }
+}
+
+class InterpolationOfShuffledSites : public RandomInput {
+ protected:
+  /// A grid whose sites are moved a little, so that no two are equally far from a point.
+  Sites sites_without_ties(int side) {
+    Sites sites;
+    for (int i = 0; i < side * side; ++i) {
+      const double x = (i % side - (side - 1) / 2.0) * 120 / side,
+                   y = (i / side - (side - 1) / 2.0) * 120 / side;
+      sites.push_back(
+          {x + between(random, -2.0, 2.0), y + between(random, -2.0, 2.0), between(random, 1.0, 2.0)});
+    }
+    return sites;
+  }
+
+  void expect_same_results(int side) {
+    wafer sample, shuffled;
+    set_diameters(sample, kDiameter, kDiameter);
+    set_diameters(shuffled, kDiameter, kDiameter);
+    Sites sites = sites_without_ties(side);
+    load(sample, sites);
+    std::shuffle(sites.begin(), sites.end(), random);
+    load(shuffled, sites);
+    for (int i = 0; i < 200; ++i) {
+      const Site point = anywhere(random, 50);
+      EXPECT_EQ(sample.Interpolation(point.x, point.y), shuffled.Interpolation(point.x, point.y));
+    }
+  }
+};
+
+TEST_F(InterpolationOfShuffledSites, OfFewSitesDoesNotDependOnTheirOrder) { expect_same_results(3); }
+
+TEST_F(InterpolationOfShuffledSites, OfManySitesDoesNotDependOnTheirOrder) { expect_same_results(8); }
+
+}  // namespace
+}  // namespace mirolen
