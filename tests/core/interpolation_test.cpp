@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "core_support.h"
 #include "mirolen/core/wafer.h"
 #include "plain_wafer.h"
+#include "support/site_support.h"
 
 namespace mirolen {
 namespace {

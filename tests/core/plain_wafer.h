@@ -4,7 +4,7 @@
 #include <functional>
 #include <vector>
 
-#include "core_support.h"
+#include "support/site_support.h"
 #include "mirolen/core/Array.h"
 
 namespace mirolen {

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "core_support.h"
 #include "mirolen/core/GlobalFunctions.h"
 #include "mirolen/core/wafer.h"
 #include "plain_wafer.h"
+#include "support/site_support.h"
 
 namespace mirolen {
 namespace {

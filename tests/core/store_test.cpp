@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "core_support.h"
 #include "mirolen/core/DecimalSeparator.h"
 #include "mirolen/core/wafer.h"
+#include "support/site_support.h"
 
 namespace mirolen {
 namespace {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdio>
 #include <ostream>
 
@@ -95,6 +96,10 @@ class JsonLine {
     out_ << ']';
   }
   void number(double value) {
+    if (!std::isfinite(value)) {
+      out_ << "null";  // JSON has no word for it
+      return;
+    }
     std::array<char, 32> text{};
     const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
     out_ << std::string_view(text.data(), static_cast<std::size_t>(end - text.data()));

@@ -21,14 +21,16 @@ struct Decimal {
   int exponent = 0;
 
   explicit Decimal(double value) : negative(std::signbit(value)) {
-    std::array<char, 40> text{};
-    std::snprintf(text.data(), text.size(), "%.*e", significant_digits - 1, std::abs(value));
+    // More digits than are kept, so that a tie is seen as one.
+    std::array<char, 48> text{};
+    std::snprintf(text.data(), text.size(), "%.*e", 2 * significant_digits, std::abs(value));
     const char* e = std::find(text.data(), text.data() + text.size(), 'e');
     std::copy_if(static_cast<const char*>(text.data()), e, std::back_inserter(digits),
                  [](char c) { return c >= '0' && c <= '9'; });
     exponent = std::atoi(e + 1) + 1;
     drop_trailing_zeros();
     if (zero()) exponent = 0;
+    round_to(significant_digits - exponent);
   }
 
   /// Keeps so many digits behind the separator, ties away from zero.

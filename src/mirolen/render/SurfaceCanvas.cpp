@@ -54,13 +54,13 @@ SurfaceSize SurfaceCanvas::unit(const char* member) const {
   const double in_twips = twips_of(scale_mode_);
   if (in_twips == 0) return {1, 1};
   const SurfaceSize per_pixel = surface(member).twips_per_pixel();
-  return {in_twips / per_pixel.width, in_twips / per_pixel.height};
+  return {divide(in_twips, per_pixel.width), divide(in_twips, per_pixel.height)};
 }
 
 SurfacePoint SurfaceCanvas::pixel(const char* member, double x, double y) const {
   const SurfaceSize scale = unit(member);
   refuse_unless_finite({x, y});
-  return {x * scale.width, y * scale.height};
+  return {checked(x * scale.width), checked(y * scale.height)};
 }
 
 Pen SurfaceCanvas::pen(std::optional<Color> color) const {
@@ -133,13 +133,13 @@ void SurfaceCanvas::Line(std::int16_t flags, double x1, double y1, double x2, do
 
 void SurfaceCanvas::Circle(double x, double y, double radius, std::optional<Color> color,
                            std::optional<double> start, std::optional<double> end, double aspect) {
-  refuse_unless_finite({radius, aspect});
+  refuse_unless_finite({radius, aspect, start.value_or(0), end.value_or(0)});
   if (radius < 0 || aspect < 0) throw InvalidArgument("a circle has no negative size");
   Surface& device = surface("Circle");
   const SurfacePoint centre = pixel("Circle", x, y);
-  const SurfaceSize round = {radius * unit("Circle").width, radius * unit("Circle").height};
-  const SurfaceSize radii = aspect <= 1 ? SurfaceSize{round.width, round.height * aspect}
-                                        : SurfaceSize{round.width / aspect, round.height};
+  const SurfacePoint round = pixel("Circle", radius, radius);
+  const SurfaceSize radii =
+      aspect <= 1 ? SurfaceSize{round.x, round.y * aspect} : SurfaceSize{round.x / aspect, round.y};
   if (start && end) return device.arc(pen(color), centre, radii, *start, *end);
   device.ellipse(pen(color), brush(), centre, radii);
 }

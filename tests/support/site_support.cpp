@@ -1,4 +1,4 @@
-#include "core_support.h"
+#include "support/site_support.h"
 
 #include <bit>
 #include <cstdlib>
