@@ -5,6 +5,7 @@
 #include <map>
 
 #include "plain_map.h"
+#include "mirolen/render/Screen.h"
 #include "support/site_support.h"
 
 namespace mirolen {
@@ -97,11 +98,11 @@ int number_of_cells(const wafer& source, double res) {
 /// Twips of a screen for one test.
 class ScreenOf {
  public:
-  ScreenOf(double x, double y) { screen_resolution() = {x, y}; }
-  ~ScreenOf() { screen_resolution() = before_; }
+  ScreenOf(double x, double y) { screen() = {x, y, {}}; }
+  ~ScreenOf() { screen() = before_; }
 
  private:
-  ScreenResolution before_ = screen_resolution();
+  Screen before_ = screen();
 };
 
 // ---- Worked out by hand: cells of 25 units, centre at (103, 103), one unit a millimetre ----

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "mirolen/render/Screen.h"
+
 namespace mirolen {
 
 RecordingCanvas CanvasSetup::canvas() const {
@@ -107,17 +109,17 @@ void PlainMap::find_area() {
   const auto wanted = request.area;
   const auto twips_x = [&] { return property("TwipsPerPixelX", setup.twips_per_pixel.width); };
   const auto twips_y = [&] { return property("TwipsPerPixelY", setup.twips_per_pixel.height); };
-  const auto screen = screen_resolution();
+  const Screen at_screen = screen();
   if (setup.kind == CanvasKind::printer) {
     find_edges(
         [&] { return divided(wanted.left, twips_x()); }, [&] { return divided(wanted.width, twips_x()); },
         [&] { return divided(wanted.top, twips_y()); }, [&] { return divided(wanted.height, twips_y()); });
     find_mark_sizes();
   } else if (request.ShowDispl == 1) {
-    find_edges([&] { return divided(wanted.left, screen.TwipsPerPixelX); },
-               [&] { return divided(wanted.width, screen.TwipsPerPixelX); },
-               [&] { return divided(wanted.top, screen.TwipsPerPixelY); },
-               [&] { return divided(wanted.height, screen.TwipsPerPixelY); });
+    find_edges([&] { return divided(wanted.left, at_screen.TwipsPerPixelX); },
+               [&] { return divided(wanted.width, at_screen.TwipsPerPixelX); },
+               [&] { return divided(wanted.top, at_screen.TwipsPerPixelY); },
+               [&] { return divided(wanted.height, at_screen.TwipsPerPixelY); });
   } else {
     find_edges([&] { return property("ScaleLeft", setup.scale.left); },
                [&] { return property("ScaleWidth", setup.scale.width); },

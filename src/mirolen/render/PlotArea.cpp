@@ -1,5 +1,7 @@
 #include "mirolen/render/PlotArea.h"
 
+#include "mirolen/render/Screen.h"
+
 namespace mirolen {
 namespace {
 
@@ -43,12 +45,12 @@ void PlotArea::fall_back() {
 
 double PlotArea::twips_x() const {
   return canvas_.kind() == CanvasKind::printer ? canvas_.TwipsPerPixelX()
-                                               : screen_resolution().TwipsPerPixelX;
+                                               : screen().TwipsPerPixelX;
 }
 
 double PlotArea::twips_y() const {
   return canvas_.kind() == CanvasKind::printer ? canvas_.TwipsPerPixelY()
-                                               : screen_resolution().TwipsPerPixelY;
+                                               : screen().TwipsPerPixelY;
 }
 
 }  // namespace mirolen

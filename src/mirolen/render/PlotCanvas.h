@@ -107,12 +107,4 @@ class PlotCanvas {
   virtual void FloodFill(std::int32_t x, std::int32_t y, Color boundary) = 0;
 };
 
-/// The screen's twips per pixel in a layer that knows no screen: renderers need it for a page target that is
-/// no printer. The toolkit of the controls sets it once.
-struct ScreenResolution {
-  double TwipsPerPixelX = 15;
-  double TwipsPerPixelY = 15;
-};
-ScreenResolution& screen_resolution();
-
 }  // namespace mirolen

@@ -39,11 +39,6 @@ Pen::Style pen_style(std::int16_t draw_style) {
 
 }  // namespace
 
-ScreenResolution& screen_resolution() {
-  static ScreenResolution resolution;
-  return resolution;
-}
-
 Surface& SurfaceCanvas::surface(const char* member) const {
   Surface* const found = device();
   if (!found) throw CanvasError(member);

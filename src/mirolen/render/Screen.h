@@ -1,0 +1,18 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace mirolen {
+
+/// What the renderers, which know no toolkit, need of the screen. The toolkit sets it, once for all controls.
+struct Screen {
+  /// Twips of a pixel, for a page target that is no printer.
+  double TwipsPerPixelX = 15;
+  double TwipsPerPixelY = 15;
+  /// Shows a message modally; without one nothing is shown.
+  std::function<void(const std::string& text, const std::string& title)> message;
+};
+Screen& screen();
+
+}  // namespace mirolen
