@@ -27,8 +27,8 @@ class FiveSites : public testing::Test {
 };
 
 /// A ring of n sites round the centre with the values 1 to n.
-Sites ring_of_sites(int n, double radius) {
-  Sites sites;
+SiteList ring_of_sites(int n, double radius) {
+  SiteList sites;
   for (int i = 0; i < n; ++i) {
     const double angle = 2 * 3.14159265358979 * i / n;
     sites.push_back({radius * std::cos(angle), radius * std::sin(angle), i + 1.0});
@@ -127,7 +127,7 @@ TEST(Interpolation, WithoutATestDiameterIsTheValueOfTheFirstSite) {
 TEST(Interpolation, OnASiteOfManyIsItsValue) {
   wafer sample;
   set_diameters(sample, kDiameter, kDiameter);
-  const Sites sites = ring_of_sites(12, 50);
+  const SiteList sites = ring_of_sites(12, 50);
   load(sample, sites);
   for (const Site& site : sites) {
     EXPECT_EQ(sample.Interpolation(site.x, site.y), site.z);
@@ -137,7 +137,7 @@ TEST(Interpolation, OnASiteOfManyIsItsValue) {
 }
 
 /// 100 sites in cells of 35 mm: the given ones and, too far from the left half to be met there, the rest.
-Sites with_the_rest_far_right(Sites sites) {
+SiteList with_the_rest_far_right(SiteList sites) {
   sites.resize(100, {95, 0, 5});
   return sites;
 }
@@ -192,7 +192,7 @@ TEST(Interpolation, StaysWithHomeCellNumbersBeyondSixteenBits) {
 
 TEST(Interpolation, WithoutAnIndexCellFindsNothingAndTakesTheFirstSite) {
   wafer sample;
-  const Sites sites = ring_of_sites(12, 50);
+  const SiteList sites = ring_of_sites(12, 50);
   EXPECT_THROW(load(sample, sites), RunTimeError);
   sample.test_diam = kDiameter;
   sample.WaferOrigRad = kDiameter / 2;
@@ -222,7 +222,7 @@ TEST(Interpolation, IsZeroWhereTheMeanLeavesTheNumbers) {
 }
 
 TEST(Interpolation, SearchesByCellsFromTenSitesUp) {
-  Sites sites{{-80, 0, 100}};
+  SiteList sites{{-80, 0, 100}};
   sites.resize(10, {80, 0, 1});
   wafer sample;
   set_diameters(sample, kDiameter, kDiameter);
@@ -237,8 +237,8 @@ TEST(Interpolation, SearchesByCellsFromTenSitesUp) {
 }
 
 TEST(Interpolation, KeepsAnOldIndexUnusedBelowTenSites) {
-  const Sites ten = ring_of_sites(10, 40);
-  const Sites nine = ring_of_sites(9, 70);
+  const SiteList ten = ring_of_sites(10, 40);
+  const SiteList nine = ring_of_sites(9, 70);
   wafer sample;
   set_diameters(sample, kDiameter, kDiameter);
   load(sample, ten);
@@ -250,7 +250,7 @@ TEST(Interpolation, KeepsAnOldIndexUnusedBelowTenSites) {
 }
 
 TEST(Interpolation, SeesAnOverwrittenSiteWithoutNewStatistics) {
-  Sites sites = ring_of_sites(12, 50);
+  SiteList sites = ring_of_sites(12, 50);
   wafer sample;
   set_diameters(sample, kDiameter, kDiameter);
   load(sample, sites);
@@ -277,8 +277,8 @@ Site anywhere(Random& random, double radius) {
 }
 
 /// Positions inside the wafer; a grid has exact ties, its sites come row by row.
-Sites positions(Random& random, Layout layout, int count, double radius) {
-  Sites sites;
+SiteList positions(Random& random, Layout layout, int count, double radius) {
+  SiteList sites;
   const Site centre = anywhere(random, radius * 0.8);
   const double angle = between(random, 0.0, 6.28);
   const int side = static_cast<int>(std::ceil(std::sqrt(count)));
@@ -307,7 +307,7 @@ struct Pair {
     plain.WafDiam = diameter, plain.WaferOrigRad = diameter / 2, plain.test_diam = test_diameter;
   }
 
-  void load_both(const Sites& sites) {
+  void load_both(const SiteList& sites) {
     load(real, sites);
     plain.reset();
     plain.SetNop(static_cast<double>(sites.size()));
@@ -320,7 +320,7 @@ void fill_with_random_sites(Random& random, Layout layout, int count, Pair& pair
   const double diameter = one_of<double>(random, {50, 100, 200, 300, 450});
   const double share = one_of<double>(random, {0, 1e-7, 1e-3, 0.03, 0.3, 0.98, 1, 1, 1, 2});
   pair.set(diameter, diameter * share);
-  Sites sites = positions(random, layout, count, pair.radius);
+  SiteList sites = positions(random, layout, count, pair.radius);
   const bool all_equal = chance(random, 0.15);
   const double low = between(random, -1000.0, 1000.0);
   for (Site& site : sites) site.z = all_equal ? low : between(random, low, low + 100);
@@ -418,8 +418,8 @@ TEST_P(InterpolationOfRandomSites, GivesTheSameResultForTheSamePoint) {
 class InterpolationOfShuffledSites : public RandomInput {
  protected:
   /// A grid whose sites are moved a little, so that no two are equally far from a point.
-  Sites sites_without_ties(int side) {
-    Sites sites;
+  SiteList sites_without_ties(int side) {
+    SiteList sites;
     for (int i = 0; i < side * side; ++i) {
       const double x = (i % side - (side - 1) / 2.0) * 120 / side,
                    y = (i / side - (side - 1) / 2.0) * 120 / side;
@@ -433,7 +433,7 @@ class InterpolationOfShuffledSites : public RandomInput {
     wafer sample, shuffled;
     set_diameters(sample, kDiameter, kDiameter);
     set_diameters(shuffled, kDiameter, kDiameter);
-    Sites sites = sites_without_ties(side);
+    SiteList sites = sites_without_ties(side);
     load(sample, sites);
     std::shuffle(sites.begin(), sites.end(), random);
     load(shuffled, sites);

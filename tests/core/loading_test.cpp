@@ -20,10 +20,10 @@ using Values = std::vector<double>;
 constexpr bool kNoLimit = false;
 constexpr bool kKeepLimit = true;
 
-const Sites kThree{{1, 10, 100}, {2, 20, 200}, {3, 30, 300}};
-const Sites kOld{{-1, -2, 8}, {-3, -4, 12}};
+const SiteList kThree{{1, 10, 100}, {2, 20, 200}, {3, 30, 300}};
+const SiteList kOld{{-1, -2, 8}, {-3, -4, 12}};
 
-std::int16_t load_arrays(wafer& target, const Sites& sites, bool keep = kNoLimit) {
+std::int16_t load_arrays(wafer& target, const SiteList& sites, bool keep = kNoLimit) {
   return LoadSiteArrays(keep, target, column(sites, &Site::x), column(sites, &Site::y),
                         column(sites, &Site::z));
 }
@@ -89,7 +89,7 @@ TEST_F(LoadSiteArraysTest, AnswersUpperBoundsBeforeLowerBounds) {
 TEST_F(LoadSiteArraysTest, PassesAZTooShortAndFailsWhereItEnds) {
   const Values x{1, 2, 3}, y{10, 20, 30}, z{100, 200};
   EXPECT_THROW(LoadSiteArrays(kNoLimit, sample, x, y, z), SubscriptOutOfRange);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 10, 100}, {2, 20, 200}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 100}, {2, 20, 200}, {}}));
   expect_old_statistics();
 }
 
@@ -102,15 +102,15 @@ TEST_F(LoadSiteArraysTest, PassesAZTooLongAndLeavesItsRest) {
 TEST_F(LoadSiteArraysTest, PassesAnXOfAnotherLengthAndGoesByIt) {
   const Values y{10, 20, 30}, z{100, 200, 300};
   EXPECT_EQ(LoadSiteArrays(kNoLimit, sample, Values{1, 2}, y, z), 0);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 10, 100}, {2, 20, 200}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 100}, {2, 20, 200}}));
   EXPECT_THROW(LoadSiteArrays(kNoLimit, sample, Values{1, 2, 3, 4}, y, z), SubscriptOutOfRange);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 10, 100}, {2, 20, 200}, {3, 30, 300}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 100}, {2, 20, 200}, {3, 30, 300}, {}}));
 }
 
 TEST_F(LoadSiteArraysTest, FailsAtTheEndOfArraysThatStartAtZero) {
   const Array x({1, 2, 3}, 0), y({10, 20, 30}, 0), z({100, 200, -300}, 0);
   EXPECT_THROW(LoadSiteArrays(kNoLimit, sample, x, y, z), SubscriptOutOfRange);
-  EXPECT_EQ(sites_of(sample), (Sites{{2, 20, 200}, {3, 30, -300}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{2, 20, 200}, {3, 30, -300}, {}}));
   EXPECT_TRUE(sample.FW_Negativ);
   expect_old_statistics();
 }
@@ -118,14 +118,14 @@ TEST_F(LoadSiteArraysTest, FailsAtTheEndOfArraysThatStartAtZero) {
 TEST_F(LoadSiteArraysTest, FailsAtOnceForArraysThatStartAtTwo) {
   const Array array({1, 2, 3}, 2);
   EXPECT_THROW(LoadSiteArrays(kNoLimit, sample, array, array, array), SubscriptOutOfRange);
-  EXPECT_EQ(sites_of(sample), Sites(3));
+  EXPECT_EQ(sites_of(sample), SiteList(3));
   expect_old_statistics();
 }
 
 TEST_F(LoadSiteArraysTest, TakesTheCountFromXWhereOnlyTheBoundsOfOthersAgree) {
   const Array x({0, 1, 2}, 0), y(Values{10, 20}), z(Values{100, 200});
   EXPECT_THROW(LoadSiteArrays(kNoLimit, sample, x, y, z), SubscriptOutOfRange);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 10, 100}, {2, 20, 200}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 100}, {2, 20, 200}, {}}));
 }
 
 TEST_F(LoadSiteArraysTest, FailsOnArraysWithoutElements) {
@@ -181,7 +181,7 @@ TEST_F(LoadSiteArraysTest, RefusesNumbersThatAreNotFiniteBeforeItTouchesTheStore
   for (const double bad : {kNaN, kInfinity, -kInfinity}) {
     for (double Site::*member : {&Site::x, &Site::y, &Site::z}) {
       for (std::size_t place = 0; place < kThree.size(); ++place) {
-        Sites sites = kThree;
+        SiteList sites = kThree;
         sites[place].*member = bad;
         EXPECT_THROW(load_arrays(sample, sites), RunTimeError);
         expect_untouched();
@@ -203,11 +203,11 @@ TEST_F(LoadSiteArraysTest, LooksOnlyAtTheElementsToBeLoaded) {
   EXPECT_EQ(sites_of(sample), kThree);
   const Array from_zero({kNaN, 2, 3}, 0);
   EXPECT_THROW(LoadSiteArrays(kNoLimit, sample, from_zero, from_zero, from_zero), SubscriptOutOfRange);
-  EXPECT_EQ(sites_of(sample), (Sites{{2, 2, 2}, {3, 3, 3}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{2, 2, 2}, {3, 3, 3}, {}}));
 }
 
 TEST_F(LoadSiteArraysTest, PassesOnTheErrorsOfTheStatistics) {
-  Sites sites(10, Site{0, 0, 1});
+  SiteList sites(10, Site{0, 0, 1});
   sites.back().x = 1e6;
   EXPECT_THROW(load_arrays(sample, sites), RunTimeError);
   EXPECT_EQ(sites_of(sample), sites);
@@ -236,19 +236,19 @@ TEST_F(LoadSiteFileTest, IgnoresWhatFollows) {
 TEST_F(LoadSiteFileTest, ReadsYAndZFromTheWrongPlacesForACountTooSmall) {
   const std::string bytes = bytes_of({1, 2, 3, 10, 20, 30, 100, 200, 300});
   EXPECT_EQ(load_bytes(sample, bytes, 2), 0);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 3, 20}, {2, 10, 30}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 3, 20}, {2, 10, 30}}));
 }
 
 TEST_F(LoadSiteFileTest, ScramblesAndFillsWithZerosForACountTooLarge) {
   const std::string bytes = bytes_of({1, 2, 3, 10, 20, 30, 100, 200, 300});
   EXPECT_EQ(load_bytes(sample, bytes, 4), 0);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 20, 300}, {2, 30, 0}, {3, 100, 0}, {10, 200, 0}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 20, 300}, {2, 30, 0}, {3, 100, 0}, {10, 200, 0}}));
   EXPECT_TRUE(sample.FW_NUll);
 }
 
 TEST_F(LoadSiteFileTest, PutsSitesThatTheFileDoesNotReachAtTheCentreWithZero) {
   EXPECT_EQ(load_bytes(sample, "", 3), 0);
-  EXPECT_EQ(sites_of(sample), Sites(3));
+  EXPECT_EQ(sites_of(sample), SiteList(3));
   EXPECT_TRUE(sample.FW_NUll);
   EXPECT_EQ(sample.Low, -0.001);
 }
@@ -257,16 +257,16 @@ TEST_F(LoadSiteFileTest, TakesANumberHeldOnlyInPartAsZero) {
   std::string bytes = file_bytes(kThree);
   bytes.pop_back();
   EXPECT_EQ(load_bytes(sample, bytes, 3), 0);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 10, 100}, {2, 20, 200}, {3, 30, 0}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 100}, {2, 20, 200}, {3, 30, 0}}));
   EXPECT_EQ(load_bytes(sample, bytes.substr(0, 8 * 4 + 1), 3), 0);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 10, 0}, {2, 0, 0}, {3, 0, 0}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 0}, {2, 0, 0}, {3, 0, 0}}));
 }
 
 TEST_F(LoadSiteFileTest, AnswersFourForAMissingFileAndMakesNone) {
   const TemporaryFile missing;
   EXPECT_EQ(LoadSiteFile(kNoLimit, sample, missing.name(), 3), 4);
   EXPECT_FALSE(std::filesystem::exists(missing.path()));
-  EXPECT_EQ(sites_of(sample), Sites(3));
+  EXPECT_EQ(sites_of(sample), SiteList(3));
   expect_old_statistics();
 }
 
@@ -316,18 +316,18 @@ TEST_F(LoadSiteFileTest, LoadsAsManySitesAsSixteenBitsCount) {
 
 TEST_F(LoadSiteFileTest, RoundsItsCountHalfToEven) {
   EXPECT_EQ(load_bytes(sample, bytes_of({1, 2, 10, 20, 100, 200}), 2.5), 0);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 10, 100}, {2, 20, 200}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 100}, {2, 20, 200}}));
   EXPECT_EQ(sample.GetNop(), 2.5);
   EXPECT_EQ(load_bytes(sample, bytes_of({1, 2, 10, 20, 100, 200}), 1.5), 0);
   // The room is for two, the second is surplus: it stays zero.
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 10, 100}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 100}, {}}));
 }
 
 TEST_F(LoadSiteFileTest, AnswersFourWithAnEmptyStoreForNumbersThatAreNotFinite) {
   for (const double bad : {kNaN, kInfinity, -kInfinity}) {
     for (double Site::*member : {&Site::x, &Site::y, &Site::z}) {
       load(sample, kOld);
-      Sites sites = kThree;
+      SiteList sites = kThree;
       sites.back().*member = bad;
       EXPECT_EQ(load_bytes(sample, file_bytes(sites), 3), 4);
       EXPECT_EQ(sample.GetNop(), 0);
@@ -337,7 +337,7 @@ TEST_F(LoadSiteFileTest, AnswersFourWithAnEmptyStoreForNumbersThatAreNotFinite) 
 }
 
 TEST_F(LoadSiteFileTest, AnswersFourWhereTheStatisticsFail) {
-  Sites sites(10, Site{0, 0, 1});
+  SiteList sites(10, Site{0, 0, 1});
   sites.back().x = 1e6;
   EXPECT_EQ(load_bytes(sample, file_bytes(sites), 10), 4);
   EXPECT_EQ(sites_of(sample), sites);
@@ -374,7 +374,7 @@ class LoadingRandomSites : public RandomInput {};
 
 TEST_F(LoadingRandomSites, ByFileAndByArraysGivesTheSameWafer) {
   for (int round = 0; round < 60; ++round) {
-    Sites sites(static_cast<std::size_t>(between(random, 1, 300)));
+    SiteList sites(static_cast<std::size_t>(between(random, 1, 300)));
     for (Site& site : sites) {
       site = {between(random, -90.0, 90.0), between(random, -90.0, 90.0), between(random, -2.0, 20.0)};
       if (chance(random, 0.01)) site.z = between(random, -2e-15, 2e-15);
@@ -394,7 +394,7 @@ TEST_F(LoadingRandomSites, ByFileAndByArraysGivesTheSameWafer) {
 
 TEST(LoadSiteArraysAndFile, AgreeOnMeasuredWafers) {
   for (const char* name : {"oxide_300mm/native_oxide_w01.csv", "film_300mm/slot1.csv"}) {
-    const Sites sites = read_sites(name);
+    const SiteList sites = read_sites(name);
     ASSERT_GT(sites.size(), 40u) << name;
     wafer by_file, by_arrays;
     set_diameters(by_file, 300, 294);
@@ -407,7 +407,7 @@ TEST(LoadSiteArraysAndFile, AgreeOnMeasuredWafers) {
 }
 
 TEST(LoadSiteArrays, TakesALargeDefectMap) {
-  const Sites sites = read_sites("defects_200mm/defect_size.csv");
+  const SiteList sites = read_sites("defects_200mm/defect_size.csv");
   ASSERT_GT(sites.size(), 12000u);
   wafer sample;
   set_diameters(sample, 200, 200);
@@ -455,7 +455,7 @@ TEST_F(ClipToTestDiameterTest, ChangesNothingWithAllSitesInside) {
   load(sample, {{10, 0, 1}, {0, 20, 3}});
   sample.setMaximalMinial(7, 5);
   ClipToTestDiameter(kNoLimit, sample, 100);
-  EXPECT_EQ(sites_of(sample), (Sites{{10, 0, 1}, {0, 20, 3}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{10, 0, 1}, {0, 20, 3}}));
   EXPECT_EQ(sample.test_diam, 190);
   EXPECT_EQ(sample.maximal, 7);
 }
@@ -476,7 +476,7 @@ TEST_F(ClipToTestDiameterTest, KeepsASiteExactlyOnTheCircle) {
 TEST_F(ClipToTestDiameterTest, KeepsTheFirstSitesWhicheverLieOutside) {
   load(sample, {{90, 0, 1}, {0, 0, 2}, {10, 0, 3}});
   ClipToTestDiameter(kNoLimit, sample, 100);
-  EXPECT_EQ(sites_of(sample), (Sites{{90, 0, 1}, {0, 0, 2}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{90, 0, 1}, {0, 0, 2}}));
   EXPECT_EQ(sample.test_diam, 100);
   EXPECT_EQ(sample.mean, 1.5);
   EXPECT_EQ(sample.maximal, 2);
@@ -486,14 +486,14 @@ TEST_F(ClipToTestDiameterTest, DropsAgainWhatItKeptOutside) {
   load(sample, {{90, 0, 1}, {0, 0, 2}, {10, 0, 3}});
   ClipToTestDiameter(kNoLimit, sample, 100);
   ClipToTestDiameter(kNoLimit, sample, 100);
-  EXPECT_EQ(sites_of(sample), (Sites{{90, 0, 1}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{90, 0, 1}}));
 }
 
 TEST_F(ClipToTestDiameterTest, DoesNotBringSitesBackWhenTheDiameterGrows) {
   load(sample, {{0, 0, 1}, {90, 0, 2}});
   ClipToTestDiameter(kNoLimit, sample, 100);
   ClipToTestDiameter(kNoLimit, sample, 190);
-  EXPECT_EQ(sites_of(sample), (Sites{{0, 0, 1}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{0, 0, 1}}));
 }
 
 TEST_F(ClipToTestDiameterTest, ForgetsTheValueFlagsOfDroppedSites) {
@@ -504,7 +504,7 @@ TEST_F(ClipToTestDiameterTest, ForgetsTheValueFlagsOfDroppedSites) {
 }
 
 TEST_F(ClipToTestDiameterTest, KeepsThePlotLimitsInForceOnlyIfAsked) {
-  const Sites sites{{0, 0, 1}, {5, 0, 3}, {90, 0, 2}};
+  const SiteList sites{{0, 0, 1}, {5, 0, 3}, {90, 0, 2}};
   load(sample, sites);
   sample.setMaximalMinial(50, 10);
   ClipToTestDiameter(kKeepLimit, sample, 100);

@@ -289,7 +289,7 @@ int PlainWafer::LoadSiteFile(bool keep_limits, const std::string* bytes, double 
     SetNop(nops);
     if (!bytes) throw PlainFailure{};
     const std::size_t n = sites_.size();
-    Sites read(n);
+    SiteList read(n);
     for (std::size_t i = 0; i < n; ++i) {
       read[i] = {number_at(*bytes, i), number_at(*bytes, n + i), number_at(*bytes, 2 * n + i)};
       if (is_finite(read[i])) continue;
@@ -313,7 +313,7 @@ void PlainWafer::ClipToTestDiameter(bool keep_limits, double new_diameter) {
     if (square < finite(sites_[i].x * sites_[i].x + sites_[i].y * sites_[i].y)) --kept;
   }
   if (kept >= n) return;
-  const Sites first(sites_.begin(), sites_.begin() + static_cast<std::ptrdiff_t>(kept));
+  const SiteList first(sites_.begin(), sites_.begin() + static_cast<std::ptrdiff_t>(kept));
   reset();
   SetNop(static_cast<double>(kept));
   for (const Site& site : first) SetGridValue(site);

@@ -4,8 +4,8 @@
 #include <functional>
 #include <vector>
 
-#include "support/site_support.h"
 #include "mirolen/core/Array.h"
+#include "support/site_support.h"
 
 namespace mirolen {
 
@@ -24,7 +24,7 @@ class PlainWafer {
   bool FW_NUll = false, FW_Negativ = false;
 
   double GetNop() const { return Nop; }
-  const Sites& sites() const { return sites_; }
+  const SiteList& sites() const { return sites_; }
   /// True where an interpolation has a defined result: with an index, and no site so far away that its
   /// distance leaves the numbers.
   bool interpolates() const;
@@ -56,7 +56,7 @@ class PlainWafer {
   void MaxMin_keeping(bool keep_limits);
 
   double Nop = 0, NextSite = 1;
-  Sites sites_;
+  SiteList sites_;
   double GridCell = 0, HalfCells = 0;
   std::vector<std::vector<Cell>> SiteCells;
   bool indexed_ = false;

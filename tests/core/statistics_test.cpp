@@ -56,7 +56,7 @@ TEST(MaxMin, AgreesWithTheMeasuringToolOnItsOwnWafers) {
   ASSERT_EQ(rows.size(), 8u);
   for (const ToolRow& row : rows) {
     SCOPED_TRACE(row.file);
-    const Sites sites = read_sites("oxide_300mm/" + row.file);
+    const SiteList sites = read_sites("oxide_300mm/" + row.file);
     ASSERT_EQ(sites.size(), row.n);
     wafer sample;
     set_diameters(sample, 300, 294);
@@ -178,7 +178,7 @@ TEST(MaxMin, RefusesASumBeyondTheNumbers) {
   EXPECT_THROW(sample.MaxMin(), OverflowError);
 }
 
-Sites at_the_centre(std::size_t count, double value) {
+SiteList at_the_centre(std::size_t count, double value) {
   return with_values(std::vector<double>(count, value));
 }
 
@@ -191,7 +191,7 @@ TEST(MaxMin, AcceptsASiteAsFarOutAsItsIndexReaches) {
        const Site& last : {Site{end - 0.01, 0, 1}, Site{0, end - 0.01, 1}, Site{0.01 - end, 0.01 - end, 1}}) {
     wafer sample;
     set_diameters(sample, 200, 200);
-    Sites sites = at_the_centre(100, 1);
+    SiteList sites = at_the_centre(100, 1);
     sites.back() = last;
     EXPECT_NO_THROW(load(sample, sites)) << last.x << ' ' << last.y;
   }
@@ -203,7 +203,7 @@ TEST(MaxMin, RefusesASiteFurtherOutThanItsIndexReaches) {
                            Site{0, -0.01 - end, 1}, Site{1e9, 0, 1}, Site{0, -1e300, 1}}) {
     wafer sample;
     set_diameters(sample, 200, 200);
-    Sites sites = at_the_centre(100, 1);
+    SiteList sites = at_the_centre(100, 1);
     sites.back() = last;
     EXPECT_THROW(load(sample, sites), RunTimeError) << last.x << ' ' << last.y;
   }
@@ -213,7 +213,7 @@ TEST(MaxMin, HasBegunAnewWhenItsIndexFails) {
   wafer sample;
   set_diameters(sample, 200, 200);
   load(sample, with_values({3, 9}));
-  Sites sites = at_the_centre(10, 5);
+  SiteList sites = at_the_centre(10, 5);
   sites.back().x = 1000;
   EXPECT_THROW(load(sample, sites), RunTimeError);
   EXPECT_EQ(sample.maxi, 5);
@@ -230,7 +230,7 @@ TEST(MaxMin, HasBegunAnewWhenItsIndexFails) {
 TEST(MaxMin, TakesASiteFarOutsideWithFewerThanTenSites) {
   wafer sample;
   set_diameters(sample, 200, 200);
-  Sites sites = at_the_centre(9, 1);
+  SiteList sites = at_the_centre(9, 1);
   sites.back().x = 1e9;
   EXPECT_NO_THROW(load(sample, sites));
 }

@@ -142,7 +142,7 @@ class RandomStoreCalls : public RandomInput {
   }
 
   void call_LoadSiteFile() {
-    Sites sites(static_cast<std::size_t>(between(random, 1, 30)));
+    SiteList sites(static_cast<std::size_t>(between(random, 1, 30)));
     const bool right_count = chance(random, 0.7);
     const double count = right_count ? static_cast<double>(sites.size()) : some_count();
     for (Site& site : sites) {

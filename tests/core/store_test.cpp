@@ -106,7 +106,7 @@ TEST(Reset, StartsAgainAtTheFirstSite) {
   sample.reset();
   sample.SetNop(2);
   sample.SetGridValue(7, 8, 9);
-  EXPECT_EQ(sites_of(sample), (Sites{{7, 8, 9}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{7, 8, 9}, {}}));
 }
 
 TEST(Reset, AloneClearsTheValueFlags) {
@@ -156,7 +156,7 @@ TEST(Reset, TwiceInARowIsHarmless) {
   sample.reset();
   EXPECT_EQ(sample.GetNop(), 0);
   load(sample, {{1, 2, 3}});
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 2, 3}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 2, 3}}));
 }
 
 TEST(SetNop, DiscardsWhatWasStored) {
@@ -164,7 +164,7 @@ TEST(SetNop, DiscardsWhatWasStored) {
   store(sample, {{1, 2, 3}, {4, 5, 6}});
   sample.SetNop(3);
   EXPECT_EQ(sample.GetNop(), 3);
-  EXPECT_EQ(sites_of(sample), Sites(3));
+  EXPECT_EQ(sites_of(sample), SiteList(3));
 }
 
 TEST(SetNop, DoesNotStartAgainAtTheFirstSite) {
@@ -172,7 +172,7 @@ TEST(SetNop, DoesNotStartAgainAtTheFirstSite) {
   store(sample, {{1, 2, 3}});
   sample.SetNop(3);
   sample.SetGridValue(4, 5, 6);
-  EXPECT_EQ(sites_of(sample), (Sites{{}, {4, 5, 6}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{}, {4, 5, 6}, {}}));
 }
 
 TEST(SetNop, RoundsHalfToEvenForTheRoomButKeepsTheNumber) {
@@ -197,7 +197,7 @@ TEST(SetNop, RefusesANumberThatIsNoCount) {
 
 TEST(SetGridValue, AppendsTheSitesInTheirOrder) {
   wafer sample;
-  const Sites sites{{1, -2, 3}, {4, 5, 6}, {1, -2, 3}};
+  const SiteList sites{{1, -2, 3}, {4, 5, 6}, {1, -2, 3}};
   store(sample, sites);
   EXPECT_EQ(sites_of(sample), sites);
 }
@@ -206,7 +206,7 @@ TEST(SetGridValue, DropsASurplusSiteInSilence) {
   wafer sample;
   store(sample, {{1, 2, 3}, {4, 5, 6}});
   sample.SetGridValue(7, 8, -9);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 2, 3}, {4, 5, 6}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 2, 3}, {4, 5, 6}}));
   EXPECT_FALSE(sample.FW_Negativ);
 }
 
@@ -226,14 +226,14 @@ TEST(SetGridValue, StaysAtTheSiteBehindTheLastAfterASurplusSite) {
   sample.SetGridValue(7, 8, 9);
   sample.SetNop(4);
   sample.SetGridValue(10, 11, 12);
-  EXPECT_EQ(sites_of(sample), (Sites{{}, {}, {10, 11, 12}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{}, {}, {10, 11, 12}, {}}));
 }
 
 TEST(SetGridValueD, WritesTheGivenSite) {
   wafer sample;
   store(sample, {{1, 2, 3}, {4, 5, 6}, {7, 8, 9}});
   sample.SetGridValueD(2, -1, -2, 3.5);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 2, 3}, {-1, -2, 3.5}, {7, 8, 9}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 2, 3}, {-1, -2, 3.5}, {7, 8, 9}}));
 }
 
 TEST(SetGridValueD, DropsASiteBeyondTheLastInSilence) {
@@ -241,7 +241,7 @@ TEST(SetGridValueD, DropsASiteBeyondTheLastInSilence) {
   store(sample, {{1, 2, 3}});
   sample.SetGridValueD(2, 4, 5, -6);
   sample.SetGridValueD(32767, 4, 5, 0);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 2, 3}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 2, 3}}));
   EXPECT_FALSE(sample.FW_Negativ);
   EXPECT_FALSE(sample.FW_NUll);
 }
@@ -251,7 +251,7 @@ TEST(SetGridValueD, RefusesASiteBelowTheFirst) {
   store(sample, {{1, 2, 3}});
   EXPECT_THROW(sample.SetGridValueD(0, 4, 5, 6), SubscriptOutOfRange);
   EXPECT_THROW(sample.SetGridValueD(-32768, 4, 5, 6), SubscriptOutOfRange);
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 2, 3}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 2, 3}}));
 }
 
 TEST(SetGridValueD, DoesNotMoveWhereTheNextSiteGoes) {
@@ -259,14 +259,14 @@ TEST(SetGridValueD, DoesNotMoveWhereTheNextSiteGoes) {
   sample.SetNop(3);
   sample.SetGridValueD(2, 1, 1, 1);
   sample.SetGridValue(2, 2, 2);
-  EXPECT_EQ(sites_of(sample), (Sites{{2, 2, 2}, {1, 1, 1}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{2, 2, 2}, {1, 1, 1}, {}}));
 }
 
 TEST(OverwriteGridValue, WritesTheGivenSite) {
   wafer sample;
   store(sample, {{1, 2, 3}, {4, 5, 6}});
   sample.OverwriteGridValue(1, -1, -2, 3.5);
-  EXPECT_EQ(sites_of(sample), (Sites{{-1, -2, 3.5}, {4, 5, 6}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{-1, -2, 3.5}, {4, 5, 6}}));
 }
 
 TEST(OverwriteGridValue, RefusesEveryNumberThatIsNoSite) {
@@ -276,7 +276,7 @@ TEST(OverwriteGridValue, RefusesEveryNumberThatIsNoSite) {
     EXPECT_THROW(sample.OverwriteGridValue(static_cast<std::int16_t>(number), 7, 8, -9), SubscriptOutOfRange)
         << number;
   }
-  EXPECT_EQ(sites_of(sample), (Sites{{1, 2, 3}, {4, 5, 6}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 2, 3}, {4, 5, 6}}));
   EXPECT_FALSE(sample.FW_Negativ);
 }
 

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <map>
 
-#include "plain_map.h"
 #include "mirolen/render/Screen.h"
+#include "plain_map.h"
 #include "support/site_support.h"
 
 namespace mirolen {
@@ -18,7 +18,8 @@ using testing::IsEmpty;
 constexpr double kNotch = 1.0, kFlat = 0.98;
 const CanvasKind kKinds[] = {CanvasKind::printer, CanvasKind::picture_box, CanvasKind::other};
 
-wafer wafer_with(const Sites& sites, double flat_ratio = kNotch, double diameter = 200, double test = 200) {
+wafer wafer_with(const SiteList& sites, double flat_ratio = kNotch, double diameter = 200,
+                 double test = 200) {
   wafer made;
   set_diameters(made, diameter, test);
   made.flat_ratio = flat_ratio;
@@ -29,9 +30,9 @@ wafer wafer_with(const Sites& sites, double flat_ratio = kNotch, double diameter
 
 double bowl(double x, double y) { return 40 + x / 20 - y / 15 + (x * x + y * y) / 700; }
 
-/// Sites spread evenly over a disc of the radius 95.
-Sites spiral(int count, double (*value)(double, double) = bowl) {
-  Sites sites;
+/// SiteList spread evenly over a disc of the radius 95.
+SiteList spiral(int count, double (*value)(double, double) = bowl) {
+  SiteList sites;
   for (int i = 0; i < count; ++i) {
     const double radius = 95 * std::sqrt((i + 0.5) / count), angle = 2.4 * i;
     const double x = radius * std::cos(angle), y = radius * std::sin(angle);
@@ -41,12 +42,12 @@ Sites spiral(int count, double (*value)(double, double) = bowl) {
 }
 
 /// Four sites on the grid nodes next to the centre of a 200 mm wafer with cells of 25 mm.
-Sites around_centre(double upper, double lower) {
+SiteList around_centre(double upper, double lower) {
   return {{25, 25, upper}, {-25, 25, upper}, {25, -25, lower}, {-25, -25, lower}};
 }
 
-/// Sites on all corners of the cell above and right of the centre, so that its value is theirs.
-Sites on_corners_of_one_cell(double z) { return {{0, 0, z}, {25, 0, z}, {0, 25, z}, {25, 25, z}}; }
+/// SiteList on all corners of the cell above and right of the centre, so that its value is theirs.
+SiteList on_corners_of_one_cell(double z) { return {{0, 0, z}, {25, 0, z}, {0, 25, z}, {25, 25, z}}; }
 const char* const kThatCell = "Polygon 128,78 103,78 103,103 128,103";
 
 std::string describe(const CanvasSetup& setup, const MapRequest& request) {
@@ -414,7 +415,7 @@ TEST(D2Plot, PaintsEqualValuesInTheSixthColorAndInTheMiddleSigmaClass) {
   for (const double value : {0.0, 5.0, -5.0, 1e9}) {
     const wafer source = wafer_with(spiral(12, [](double, double) { return 0.0; }));
     wafer equal = source;
-    Sites sites = sites_of(source);
+    SiteList sites = sites_of(source);
     for (Site& site : sites) site.z = value;
     load(equal, sites);
     request.PlotStyle = 5;
@@ -711,7 +712,7 @@ class D2PlotOfRandomInput : public RandomInput {
   wafer any_wafer() {
     const double diameter = between(random, 50.0, 400.0);
     const double test = diameter * between(random, 0.7, 1.0);
-    Sites sites;
+    SiteList sites;
     for (int left = between(random, 0, 40); left > 0; --left) {
       const double angle = between(random, 0.0, 6.3),
                    radius = test / 2 * std::sqrt(between(random, 0.0, 1.0));

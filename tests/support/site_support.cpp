@@ -42,19 +42,19 @@ void set_diameters(wafer& target, double diameter, double test_diameter) {
   target.test_diam = test_diameter;
 }
 
-void store(wafer& target, const Sites& sites) {
+void store(wafer& target, const SiteList& sites) {
   target.reset();
   target.SetNop(static_cast<double>(sites.size()));
   for (const Site& site : sites) target.SetGridValue(site.x, site.y, site.z);
 }
 
-void load(wafer& target, const Sites& sites) {
+void load(wafer& target, const SiteList& sites) {
   store(target, sites);
   target.MaxMin();
 }
 
-Sites with_values(const std::vector<double>& values) {
-  Sites sites;
+SiteList with_values(const std::vector<double>& values) {
+  SiteList sites;
   for (const double value : values) sites.push_back({0, 0, value});
   return sites;
 }
@@ -65,14 +65,14 @@ Site site_of(const wafer& source, int number) {
   return {position(1), position(2), z};
 }
 
-Sites sites_of(const wafer& source) {
-  Sites sites;
+SiteList sites_of(const wafer& source) {
+  SiteList sites;
   const int count = static_cast<int>(std::nearbyint(source.GetNop()));
   for (int number = 1; number <= count && number <= 32767; ++number) sites.push_back(site_of(source, number));
   return sites;
 }
 
-std::vector<double> column(const Sites& sites, double Site::*member) {
+std::vector<double> column(const SiteList& sites, double Site::*member) {
   std::vector<double> values;
   for (const Site& site : sites) values.push_back(site.*member);
   return values;
@@ -84,17 +84,17 @@ std::string bytes_of(const std::vector<double>& numbers) {
   return bytes;
 }
 
-std::string file_bytes(const Sites& sites) {
+std::string file_bytes(const SiteList& sites) {
   return bytes_of(column(sites, &Site::x)) + bytes_of(column(sites, &Site::y)) +
          bytes_of(column(sites, &Site::z));
 }
 
-Sites read_sites(const std::string& name) {
+SiteList read_sites(const std::string& name) {
   std::ifstream file(std::filesystem::path(MIROLEN_DATA) / name);
   if (!file) throw std::runtime_error("no example data " + name);
   std::string line;
   std::getline(file, line);
-  Sites sites;
+  SiteList sites;
   for (char comma; std::getline(file, line);) {
     Site site;
     if (std::istringstream(line) >> site.x >> comma >> site.y >> comma >> site.z) sites.push_back(site);

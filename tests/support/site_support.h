@@ -19,7 +19,7 @@ struct Site {
   friend bool operator==(const Site&, const Site&) = default;
 };
 
-using Sites = std::vector<Site>;
+using SiteList = std::vector<Site>;
 
 void PrintTo(const Site& site, std::ostream* out);
 
@@ -29,22 +29,22 @@ inline constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 /// Sets all three lengths as a control does.
 void set_diameters(wafer& target, double diameter, double test_diameter);
 /// Everything up to `MaxMin`.
-void store(wafer& target, const Sites& sites);
-void load(wafer& target, const Sites& sites);
+void store(wafer& target, const SiteList& sites);
+void load(wafer& target, const SiteList& sites);
 /// One site at the centre for each value.
-Sites with_values(const std::vector<double>& values);
+SiteList with_values(const std::vector<double>& values);
 
 /// Site by number, and all that there is room for.
 Site site_of(const wafer& source, int number);
-Sites sites_of(const wafer& source);
+SiteList sites_of(const wafer& source);
 
-std::vector<double> column(const Sites& sites, double Site::*member);
+std::vector<double> column(const SiteList& sites, double Site::*member);
 /// The data file of these sites.
-std::string file_bytes(const Sites& sites);
+std::string file_bytes(const SiteList& sites);
 std::string bytes_of(const std::vector<double>& numbers);
 
 /// A site list with the header x_mm,y_mm,z out of the example data.
-Sites read_sites(const std::string& name);
+SiteList read_sites(const std::string& name);
 
 /// A path of its own in the folder for temporary files; whatever lies there in the end is removed.
 class TemporaryFile {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -69,6 +70,37 @@ double to_nearest_line(double cells) {
   return rest < 0.5 ? rest : 1 - rest;
 }
 
+/// The square ring of cells at a distance from a home cell.
+struct Ring {
+  std::int64_t x0, y0, distance;
+
+  /// The nearest and the farthest ring that touch an index of side by side cells.
+  struct Bounds {
+    std::int64_t first, last;
+    Bounds(std::int64_t x0, std::int64_t y0, std::int64_t side)
+        : first(std::max({std::int64_t{1}, -x0, x0 - side + 1, -y0, y0 - side + 1})),
+          last(std::max({std::abs(x0), std::abs(x0 - side + 1), std::abs(y0), std::abs(y0 - side + 1)})) {}
+  };
+
+  /// Visits the cells that lie within the index: the side of high y along +x, then along -y, -x and +y.
+  template <class Visit>
+  void visit(std::int64_t side, Visit visit_cell) const {
+    const std::int64_t left = x0 - distance, right = x0 + distance;
+    const std::int64_t low = y0 - distance, high = y0 + distance;
+    const auto within = [&](std::int64_t line) { return line >= 0 && line < side; };
+    const auto from = [](std::int64_t first) { return std::max(first, std::int64_t{0}); };
+    const auto upto = [&](std::int64_t last) { return std::min(last, side - 1); };
+    if (within(high))
+      for (std::int64_t x = from(left); x <= upto(right - 1); ++x) visit_cell(x, high);
+    if (within(right))
+      for (std::int64_t y = upto(high); y >= from(low + 1); --y) visit_cell(right, y);
+    if (within(low))
+      for (std::int64_t x = upto(right); x >= from(left + 1); --x) visit_cell(x, low);
+    if (within(left))
+      for (std::int64_t y = from(low); y <= upto(high - 1); ++y) visit_cell(left, y);
+  }
+};
+
 }  // namespace
 
 double wafer::Interpolation(double Xa, double Ya) const {
@@ -86,7 +118,6 @@ double wafer::mean_of_near_sites(double Xa, double Ya) const {
   const double sentinel = 9 * R * R;
   NearestFour nearest(std::isfinite(sentinel) ? sentinel : 0, 4 * WaferOrigRad, 0);
   const auto insert_cell = [&](std::int64_t cx, std::int64_t cy) {
-    if (!SiteCells.contains(cx, cy)) return;
     for (const std::int16_t site : SiteCells.cell(cx, cy)) {
       const Position& at = GridPos[static_cast<std::size_t>(site)];
       nearest.insert(site, distance(Xa, Ya, at.x, at.y));
@@ -101,24 +132,17 @@ double wafer::mean_of_near_sites(double Xa, double Ya) const {
   if (GridCell != 0 && reachable && SiteCells.sites() <= GridVal.size()) {
     const auto x0 = static_cast<std::int64_t>(homeX);
     const auto y0 = static_cast<std::int64_t>(homeY);
-    const std::int64_t last_ring = std::abs(x0) + std::abs(y0) + SiteCells.side();
-    insert_cell(x0, y0);
+    const Ring::Bounds bounds(x0, y0, SiteCells.side());
+    if (SiteCells.contains(x0, y0)) insert_cell(x0, y0);
 
     // The reach starts as a part of a cell and grows by millimetres, and its square is held against a
     // distance: that is the measure that decides how many rings are looked at.
     const double ex = to_nearest_line(cx);
     const double ey = to_nearest_line(cy);
     double reach = ex < ey ? ex : ey;
-    for (std::int64_t ring = 1; ring <= last_ring && nearest.farthest() > reach * reach; ++ring) {
+    for (std::int64_t ring = 1; ring <= bounds.last && nearest.farthest() > reach * reach; ++ring) {
       reach += GridCell;
-      std::int64_t x = x0 - ring;
-      std::int64_t y = y0 + ring;
-      for (std::int64_t dx = 1, dy = 0, side = 0; side < 4; ++side) {
-        for (std::int64_t step = 0; step < 2 * ring; ++step, x += dx, y += dy) insert_cell(x, y);
-        const std::int64_t turned = -dx;
-        dx = dy;
-        dy = turned;
-      }
+      if (ring >= bounds.first) Ring{x0, y0, ring}.visit(SiteCells.side(), insert_cell);
     }
   }
   return value_from(nearest, [&](std::int32_t site) { return value_of(site + 1); });
