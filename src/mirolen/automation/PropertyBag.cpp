@@ -9,11 +9,12 @@ Variant fallback_of(const Object& object, const StoredKey& key) {
   return key.fallback ? *key.fallback : converted(get(object, key.property), key.type);
 }
 
-Variant stored_value(const PropertyBag& bag, const StoredKey& key, const Variant& fallback) {
+void read_property(const Object& object, const PropertyBag& bag, const StoredKey& key) {
+  const Variant fallback = fallback_of(object, key);
   try {
-    return converted(bag.read(key.key, fallback), key.type);
+    let(object, key.property, converted(bag.read(key.key, fallback), key.type));
   } catch (const RunTimeError&) {
-    return fallback;
+    let(object, key.property, fallback);
   }
 }
 
@@ -29,8 +30,7 @@ void MemoryPropertyBag::write(const std::string& key, const Variant& value, cons
 }
 
 void ReadProperties(const Object& object, const PropertyBag& bag) {
-  for (const StoredKey& key : object.info->stored)
-    let(object, key.property, stored_value(bag, key, fallback_of(object, key)));
+  for (const StoredKey& key : object.info->stored) read_property(object, bag, key);
 }
 
 void WriteProperties(const Object& object, PropertyBag& bag) {

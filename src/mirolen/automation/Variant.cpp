@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 
 #include "mirolen/core/numbers.h"
 
@@ -16,7 +17,7 @@ double number_in(const std::string& text, Type to) {
   double number = 0;
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number);
-  if (error != std::errc() || stop != end) refuse(Type::text, to);
+  if (error != std::errc() || stop != end || !std::isfinite(number)) refuse(Type::text, to);
   return number;
 }
 
@@ -31,8 +32,14 @@ double number_of(const Variant& value, Type to) {
 
 std::string text_of(const Variant& value) {
   if (std::holds_alternative<bool>(value)) return std::get<bool>(value) ? "True" : "False";
+  constexpr double whole_below = 1e15;
+  constexpr int digits = 15;
+  const double number = number_of(value, Type::text);
+  const bool whole = std::trunc(number) == number && std::abs(number) < whole_below;
+  const auto format = whole ? std::chars_format::fixed : std::chars_format::general;
   std::array<char, 32> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), number_of(value, Type::text)).ptr;
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), number, format, whole ? 0 : digits).ptr;
   return {text.data(), end};
 }
 

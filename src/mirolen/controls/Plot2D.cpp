@@ -1,5 +1,6 @@
 #include "mirolen/controls/Plot2D.h"
 
+#include <cmath>
 #include <string>
 
 #include "mirolen/render/ColorScale.h"
@@ -8,6 +9,7 @@
 namespace mirolen {
 namespace {
 
+constexpr int intervals = 10;
 constexpr double default_resolution = 5;
 constexpr std::int16_t as_color_map = 5;
 constexpr std::int16_t on_screen = 0;
@@ -28,9 +30,14 @@ void Plot2D::ShowSites(Sites v) {
   look_changed("ShowSites");
 }
 
-Color Plot2D::IntervalColor(int interval) const { return to_color(band_color(wafobj, interval + 1)); }
+Color Plot2D::IntervalColor(int interval) const {
+  if (interval < 0 || interval >= intervals) return 0;
+  const double color = band_color(wafobj, interval + 1);
+  return std::isfinite(color) ? to_color(color) : 0;
+}
 
 void Plot2D::IntervalColor(int interval, Color v) {
+  if (interval < 0 || interval >= intervals) return;
   band_color(wafobj, interval + 1) = v;
   look_changed(("IntervalColor" + std::to_string(interval)).c_str());
 }

@@ -17,7 +17,7 @@ class Plot2D : public MapFrame {
   /// Marks the sites: a minus below the mean, a plus at or above it.
   void ShowSites(Sites v);
 
-  /// The colour of interval 0 (top of the scale) to 9.
+  /// The colour of interval 0 (top of the scale) to 9; any other is black and cannot be set.
   Color IntervalColor(int interval) const;
   void IntervalColor(int interval, Color v);
 

@@ -44,13 +44,11 @@ void PlotArea::fall_back() {
 }
 
 double PlotArea::twips_x() const {
-  return canvas_.kind() == CanvasKind::printer ? canvas_.TwipsPerPixelX()
-                                               : screen().TwipsPerPixelX;
+  return canvas_.kind() == CanvasKind::printer ? canvas_.TwipsPerPixelX() : screen().TwipsPerPixelX;
 }
 
 double PlotArea::twips_y() const {
-  return canvas_.kind() == CanvasKind::printer ? canvas_.TwipsPerPixelY()
-                                               : screen().TwipsPerPixelY;
+  return canvas_.kind() == CanvasKind::printer ? canvas_.TwipsPerPixelY() : screen().TwipsPerPixelY;
 }
 
 }  // namespace mirolen

@@ -7,7 +7,8 @@
 namespace mirolen::StringFormat {
 
 // Numbers as texts, with the decimal separator of the library. All work on 15 significant decimal digits,
-// ties away from zero; a negative number that shows as zero has no minus.
+// ties away from zero; a negative number that shows as zero has no minus. @throws InvalidArgument for a
+// number that is not finite.
 
 /// A number in a format of 0 (a digit always), # (a digit unless it is an outer zero), one "." (always shown)
 /// and optionally an exponent: "E+" (sign always) or "E-" followed by 0 and #. "0.0#" shows 2 as "2.0".

@@ -23,7 +23,11 @@ Surface* PictureBox::device() const {
 void PictureBox::changed() {
   if (surface_ && drawn_background_ != BackColor) {
     drawn_background_ = BackColor;
-    surface_->clear(toolkit().resolve(BackColor));
+    try {
+      surface_->clear(toolkit().resolve(BackColor));
+    } catch (const RunTimeError&) {
+      // A picture that cannot be erased now is erased by the next drawing.
+    }
   }
   Widget::changed();
 }
