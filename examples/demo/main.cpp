@@ -1,0 +1,114 @@
+// Loads real wafers by arrays and by a data file, prints their statistics and writes the plots as pictures.
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QtEndian>
+#include <cstdio>
+
+#include "../viewer/wafer_file.h"
+#include "mirolen/qt/Plot2D.h"
+
+using mirolen::qt::Plot2D;
+
+namespace {
+
+struct WaferSet {
+  const char* folder;
+  double wafer_diameter;
+  double test_diameter;
+};
+
+constexpr WaferSet sets[] = {
+    {"oxide_300mm", 300, 294}, {"film_300mm", 300, 294}, {"defects_200mm", 200, 194}};
+
+void set_up(Plot2D& map, const WaferSet& set, const QString& caption) {
+  map.resize(900, 680);
+  map.setWaferDiameter(set.wafer_diameter);  // first: it empties the data
+  map.setTestDiameter(set.test_diameter);
+  map.setResolution(2);
+  map.setShowSites(Plot2D::ShowSite);
+  map.setPlotCaption(caption);
+}
+
+bool print_statistics(Plot2D& map, const QString& path, const QString& name) {
+  const SiteList sites = read_csv(path);
+  if (map.SetWaferData(sites.x, sites.y, sites.z) != 0) {
+    std::printf("%-28s refused\n", qPrintable(name));
+    return false;
+  }
+  std::printf("%-28s %6zu %11.4f %11.4f %11.4f %11.4f %9.4f\n", qPrintable(name), sites.x.size(), map.mean(),
+              map.StdDev(), map.Minimum(), map.Maximum(), map.StdDevPercent());
+  return true;
+}
+
+bool print_all_statistics(const QDir& data) {
+  std::printf("%-28s %6s %11s %11s %11s %11s %9s\n", "wafer", "sites", "mean", "std dev", "min", "max",
+              "std dev %");
+  bool good = true;
+  for (const WaferSet& set : sets) {
+    Plot2D map;
+    set_up(map, set, {});
+    const QDir folder(data.filePath(set.folder));
+    for (const QString& file : folder.entryList({"*.csv"}, QDir::Files, QDir::Name))
+      if (file != "TOOL_STATISTICS.csv")
+        good &= print_statistics(map, folder.filePath(file), folder.dirName() + "/" + file);
+  }
+  return good;
+}
+
+/// Three blocks of little-endian doubles: all x, all y, all values.
+bool write_data_file(const SiteList& sites, const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly)) return false;
+  bool written = true;
+  for (const std::vector<double>* block : {&sites.x, &sites.y, &sites.z}) {
+    std::vector<double> bytes(block->size());
+    qToLittleEndian<double>(block->data(), static_cast<qsizetype>(block->size()), bytes.data());
+    const auto size = static_cast<qint64>(bytes.size() * sizeof(double));
+    written &= file.write(reinterpret_cast<const char*>(bytes.data()), size) == size;
+  }
+  return file.flush() && written;
+}
+
+/// The same wafer by arrays and by a data file: one picture.
+bool plot_wafer(const QDir& data, const QDir& out) {
+  const SiteList sites = read_csv(data.filePath("oxide_300mm/post_w01.csv"));
+  const QString data_file = out.filePath("post_w01.bin");
+  if (!write_data_file(sites, data_file)) return false;
+
+  Plot2D by_arrays, by_file;
+  for (Plot2D* map : {&by_arrays, &by_file}) set_up(*map, sets[0], "Oxide after etch, wafer 1 (angstrom)");
+  if (by_arrays.SetWaferData(sites.x, sites.y, sites.z) != 0 || by_arrays.Plot() != 0) return false;
+  if (by_file.SetDataFile(data_file, static_cast<double>(sites.x.size())) != 0 || by_file.Plot() != 0)
+    return false;
+
+  const QImage picture = by_arrays.grab().toImage();
+  if (picture != by_file.grab().toImage()) {
+    std::printf("arrays and data file gave different pictures\n");
+    return false;
+  }
+  const QString path = out.filePath("plot2d.png");
+  if (!picture.save(path)) return false;
+  std::printf("wrote %s\nwrote %s\n", qPrintable(path), qPrintable(data_file));
+  return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  if (argc != 3) {
+    std::fprintf(stderr, "usage: demo DATA_FOLDER OUT_FOLDER\n");
+    return 2;
+  }
+  try {
+    const QDir data(argv[1]), out(argv[2]);
+    if (!out.mkpath(".")) throw WaferFileError("cannot make the folder " + out.path());
+    const bool good = print_all_statistics(data) & plot_wafer(data, out);
+    return good ? 0 : 1;
+  } catch (const WaferFileError& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
+}

@@ -1,0 +1,178 @@
+#include "mirolen/qt/PlotWidget.h"
+
+#include <QEvent>
+#include <QMetaProperty>
+#include <QPainter>
+#include <algorithm>
+
+#include "mirolen/qt/ChildView.h"
+#include "mirolen/qt/Picture.h"
+#include "mirolen/qt/translate.h"
+
+namespace mirolen::qt {
+
+/// What a host's form is to the control: it makes signals of its notices and events.
+class PlotWidget::Host : public Container {
+ public:
+  explicit Host(PlotWidget& face) : face_(face) {}
+
+  void ScaleMode(std::int16_t) override {}  // a form of Qt knows one scale only
+  void changed(std::string_view property) override { face_.property_changed(property); }
+  void Click() override { emit face_.Click(); }
+  void DblClick() override { emit face_.DblClick(); }
+  void MouseDown(const MouseEvent& e) override { emit face_.MouseDown(e.Button, e.Shift, e.x, e.y); }
+  void MouseMove(const MouseEvent& e) override { emit face_.MouseMove(e.Button, e.Shift, e.x, e.y); }
+  void MouseUp(const MouseEvent& e) override { emit face_.MouseUp(e.Button, e.Shift, e.x, e.y); }
+
+ private:
+  PlotWidget& face_;
+};
+
+PlotWidget::PlotWidget(QWidget* parent)
+    : QWidget(parent), toolkit_(*this), host_(std::make_unique<Host>(*this)) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+  // With the Tab key the button takes the focus itself; the face only hands on what a click brings it.
+  setFocusPolicy(Qt::ClickFocus);
+}
+
+PlotWidget::~PlotWidget() = default;
+
+Container& PlotWidget::container() { return *host_; }
+
+void PlotWidget::adopt(std::unique_ptr<ControlFrame> control) {
+  control_ = std::move(control);
+  mouse_ = std::make_unique<MouseRelay>(*this, *control_);
+  resize(sizeHint());
+  InitProperties();
+}
+
+ControlFrame& PlotWidget::frame() {
+  take_size();
+  return *control_;
+}
+
+int PlotWidget::SetWaferData(const ArrayView& x, const ArrayView& y, const ArrayView& Z) {
+  return frame().SetWaferData(x, y, Z);
+}
+
+int PlotWidget::SetWaferData(std::span<const double> x, std::span<const double> y,
+                             std::span<const double> Z) {
+  return SetWaferData(ArrayView(x), ArrayView(y), ArrayView(Z));
+}
+
+int PlotWidget::SetWaferData(const std::vector<double>& x, const std::vector<double>& y,
+                             const std::vector<double>& Z) {
+  return SetWaferData(ArrayView(x), ArrayView(y), ArrayView(Z));
+}
+
+int PlotWidget::SetDataFile(const QString& datafile, double nops) {
+  return frame().SetDataFile(utf8_of(datafile), nops);
+}
+
+double PlotWidget::GetWaferData(std::vector<double>& x, std::vector<double>& y,
+                                std::vector<double>& Z) const {
+  return control_->GetWaferData(x, y, Z);
+}
+
+QColor PlotWidget::BackColor() const { return qcolor_of(toolkit_.resolve(control_->BackColor())); }
+
+void PlotWidget::setBackColor(const QColor& v) {
+  if (v.isValid()) control_->BackColor(color_of(v));
+}
+
+void PlotWidget::setMousePointer(int v) {
+  constexpr int last_pointer = 99;
+  control_->MousePointer(static_cast<std::int16_t>(std::clamp(v, 0, last_pointer)));
+  emit MousePointerChanged();
+}
+
+QPixmap PlotWidget::MouseIcon() const {
+  const auto icon = std::dynamic_pointer_cast<const Picture>(control_->MouseIcon());
+  return icon ? QPixmap::fromImage(icon->image()) : QPixmap();
+}
+
+void PlotWidget::setMouseIcon(const QPixmap& v) {
+  control_->MouseIcon(v.isNull() ? nullptr : std::make_shared<Picture>(v.toImage()));
+  emit MouseIconChanged();
+}
+
+QSize PlotWidget::sizeHint() const {
+  constexpr double usual_width = 6900, usual_height = 4800;
+  return {pixels_of(usual_width), pixels_of(usual_height)};
+}
+
+QSize PlotWidget::minimumSizeHint() const {
+  constexpr double width = 4500, height = 3180, bare = 750;
+  return HideLegend() ? QSize(pixels_of(bare), pixels_of(bare)) : QSize(pixels_of(width), pixels_of(height));
+}
+
+void PlotWidget::property_changed(std::string_view name) {
+  const int index = metaObject()->indexOfProperty(std::string(name).c_str());
+  const QMetaProperty property = metaObject()->property(index);
+  if (property.hasNotifySignal()) property.notifySignal().invoke(this, Qt::DirectConnection);
+  if (name == "HideLegend") updateGeometry();
+}
+
+void PlotWidget::take_size() {
+  if (!control_ || size() == told_) return;
+  told_ = size();
+  if (size() == QSize(pixels_of(control_->Width), pixels_of(control_->Height))) return;
+  if (!seen_) control_->SetPlotNotVaild();
+  control_->resize_to(width() * twips_per_pixel, height() * twips_per_pixel);
+}
+
+void PlotWidget::redraw() {
+  control_->SetPlotNotVaild();
+  control_->resize_to(control_->Width, control_->Height);
+}
+
+void PlotWidget::change_ratio(double ratio) {
+  toolkit_.change_ratio(*control_, ratio);
+  redraw();
+}
+
+void PlotWidget::take_ratio() {
+  if (control_ && toolkit_.ratio() != devicePixelRatioF()) change_ratio(devicePixelRatioF());
+}
+
+void PlotWidget::take_palette() {
+  if (!control_) return;
+  toolkit_.erase_pictures(*control_);
+  redraw();
+}
+
+bool PlotWidget::event(QEvent* event) {
+  const bool handled = QWidget::event(event);
+  if (event->type() == QEvent::ScreenChangeInternal) take_ratio();
+  if (event->type() == QEvent::PaletteChange) take_palette();
+  return handled;
+}
+
+void PlotWidget::paintEvent(QPaintEvent*) {
+  QPainter(this).fillRect(rect(), BackColor());
+  // Where no other event told of a new ratio; nothing must be drawn anew within a paint event.
+  if (toolkit_.ratio() != devicePixelRatioF())
+    QMetaObject::invokeMethod(this, &PlotWidget::take_ratio, Qt::QueuedConnection);
+}
+
+void PlotWidget::resizeEvent(QResizeEvent*) { take_size(); }
+
+void PlotWidget::showEvent(QShowEvent*) {
+  take_size();
+  take_ratio();
+  seen_ = true;
+}
+
+void PlotWidget::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  if (control_->OnEnterFocus) control_->OnEnterFocus();
+}
+
+void PlotWidget::mousePressEvent(QMouseEvent* event) { mouse_->press(*event); }
+void PlotWidget::mouseMoveEvent(QMouseEvent* event) { mouse_->move(*event); }
+void PlotWidget::mouseReleaseEvent(QMouseEvent* event) { mouse_->release(*event); }
+void PlotWidget::mouseDoubleClickEvent(QMouseEvent* event) { mouse_->double_click(*event); }
+
+}  // namespace mirolen::qt

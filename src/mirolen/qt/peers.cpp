@@ -1,0 +1,124 @@
+#include "mirolen/qt/peers.h"
+
+#include <QTextDocument>
+
+#include "mirolen/qt/translate.h"
+#include "mirolen/qt/views.h"
+
+namespace mirolen::qt {
+namespace {
+
+/// A tool tip is plain text, whatever its "<" and "&" look like.
+QString plain_tip(const std::string& utf8) {
+  const QString text = text_of(utf8);
+  return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()) : text;
+}
+
+/// Both edges are rounded, so that neighbours meet. What shows an image keeps the size in pixels of that
+/// instead.
+QRect place_of(const Widget& widget) {
+  if (widget.kind() == WidgetKind::line) {
+    const QWidget* const parent = view_of(*widget.container());
+    return parent ? parent->rect() : QRect();
+  }
+  const QPoint from(pixels_of(widget.Left), pixels_of(widget.Top));
+  if (widget.kind() == WidgetKind::picture_box || widget.kind() == WidgetKind::image_box)
+    return QRect(from, QSize(pixels_of(widget.Width), pixels_of(widget.Height)));
+  const QPoint to(pixels_of(widget.Left + widget.Width), pixels_of(widget.Top + widget.Height));
+  return QRect(from, to - QPoint(1, 1));
+}
+
+class ChildPeer : public ViewPeer {
+ public:
+  ChildPeer(Widget& widget, QWidget* view) : widget_(widget), view_(view) {}
+  ~ChildPeer() override { delete view_.data(); }
+
+  QWidget* view() const override { return view_; }
+
+  void changed() override {
+    if (!view_) return;
+    view_->setGeometry(place_of(widget_));
+    view_->setVisible(widget_.Visible);
+    view_->setToolTip(plain_tip(widget_.ToolTipText));
+    if (const auto* button = dynamic_cast<const Button*>(&widget_))
+      static_cast<ButtonView&>(*view_).setText(text_of(button->Caption.get()));
+    view_->update();
+  }
+
+ private:
+  Widget& widget_;
+  QPointer<QWidget> view_;
+};
+
+QWidget* make_view(QWidget& parent, Widget& widget) {
+  switch (widget.kind()) {
+    case WidgetKind::frame:
+      return new FrameView(parent, dynamic_cast<Frame&>(widget));
+    case WidgetKind::label:
+      return new LabelView(parent, dynamic_cast<Label&>(widget));
+    case WidgetKind::button:
+      return new ButtonView(parent, dynamic_cast<Button&>(widget));
+    case WidgetKind::shape:
+      return new ShapeView(parent, dynamic_cast<Shape&>(widget));
+    case WidgetKind::line:
+      return new LineView(parent, dynamic_cast<LineShape&>(widget));
+    case WidgetKind::picture_box:
+      return new PictureView(parent, dynamic_cast<PictureBox&>(widget));
+    case WidgetKind::image_box:
+      return new ImageView(parent, dynamic_cast<ImageBox&>(widget));
+    case WidgetKind::user_control:
+      break;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+void ViewPeer::refresh() {
+  if (view()) view()->update();
+}
+
+std::uintptr_t ViewPeer::handle() const { return view() ? view()->internalWinId() : 0; }
+
+QWidget* view_of(const Widget& widget) {
+  const auto* peer = dynamic_cast<const ViewPeer*>(widget.peer());
+  return peer ? peer->view() : nullptr;
+}
+
+std::unique_ptr<Peer> make_child_peer(Widget& widget) {
+  QWidget* const parent = widget.container() ? view_of(*widget.container()) : nullptr;
+  QWidget* const view = parent ? make_view(*parent, widget) : nullptr;
+  return view ? std::make_unique<ChildPeer>(widget, view) : nullptr;
+}
+
+FacePeer::FacePeer(UserControl& control, QWidget& face)
+    : control_(control), face_(&face), width_(control.Width), height_(control.Height) {}
+
+void FacePeer::changed() {
+  if (!face_) return;
+  follow_size();
+  show_pointer();
+  face_->setToolTip(plain_tip(control_.ToolTipText));
+  face_->update();
+}
+
+void FacePeer::follow_size() {
+  QSize size = face_->size();
+  if (control_.Width != width_) size.setWidth(pixels_of(control_.Width));
+  if (control_.Height != height_) size.setHeight(pixels_of(control_.Height));
+  width_ = control_.Width;
+  height_ = control_.Height;
+  face_->resize(size);
+}
+
+void FacePeer::show_pointer() {
+  if (pointer_ == control_.MousePointer && icon_ == control_.MouseIcon.get()) return;
+  pointer_ = control_.MousePointer;
+  icon_ = control_.MouseIcon;
+  if (pointer_ == 0)
+    face_->unsetCursor();
+  else
+    face_->setCursor(cursor_of(pointer_, icon_.get()));
+}
+
+}  // namespace mirolen::qt

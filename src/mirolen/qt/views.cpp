@@ -1,0 +1,136 @@
+#include "mirolen/qt/views.h"
+
+#include <QFontMetrics>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "mirolen/qt/ImageSurface.h"
+#include "mirolen/qt/Picture.h"
+#include "mirolen/qt/translate.h"
+
+namespace mirolen::qt {
+namespace {
+
+QColor own_background(const Widget& widget) { return qcolor_of(widget.toolkit().resolve(widget.BackColor)); }
+
+/// The background that is seen behind a widget which has none of its own.
+QColor seen_background(const Widget& widget) {
+  const Widget* shown = &widget;
+  while (shown->BackColor == button_face && shown->container()) shown = shown->container();
+  return own_background(*shown);
+}
+
+/// The four edges of a box, filled: a drawn line may fall off the widget where a logical pixel is a broken
+/// number of the screen's.
+void fill_edges(QPainter& painter, const QRect& box, const QColor& color) {
+  painter.fillRect(QRect(box.left(), box.top(), box.width(), 1), color);
+  painter.fillRect(QRect(box.left(), box.bottom(), box.width(), 1), color);
+  painter.fillRect(QRect(box.left(), box.top(), 1, box.height()), color);
+  painter.fillRect(QRect(box.right(), box.top(), 1, box.height()), color);
+}
+
+}  // namespace
+
+void FrameView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QColor background = own_background(frame_);
+  painter.fillRect(rect(), background);
+  if (!frame_.Border) return;
+  const int top = frame_.Caption.get().empty() ? 0 : QFontMetrics(font_of({}, *this)).height() / 2;
+  const QRect edges(0, top, width() - 1, height() - 1 - top);
+  const bool dark = background.lightnessF() < 0.5;
+  fill_edges(painter, edges.translated(1, 1), dark ? background.darker(180) : background.lighter(130));
+  fill_edges(painter, edges, dark ? background.lighter(180) : background.darker(150));
+  paint_caption(painter, background);
+}
+
+void FrameView::paint_caption(QPainter& painter, const QColor& background) const {
+  constexpr int indent = 8, gap = 2;
+  const QFont font = font_of({}, *this);
+  const QFontMetrics metrics(font, painter.device());
+  const QString text =
+      metrics.elidedText(text_of(frame_.Caption.get()), Qt::ElideRight, width() - 2 * (indent + gap));
+  if (text.isEmpty()) return;
+  const QRect place(indent, 0, metrics.horizontalAdvance(text), metrics.height());
+  painter.fillRect(place.adjusted(-gap, 0, gap, 0), background);
+  painter.setFont(font);
+  painter.setPen(readable_on(background, palette().color(QPalette::WindowText)));
+  painter.drawText(QPoint(place.left(), metrics.ascent()), text);
+}
+
+void LabelView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QColor background = seen_background(label_);
+  if (label_.BackColor != button_face) painter.fillRect(rect(), background);
+  painter.setFont(font_of(label_.Font, *this));
+  painter.setPen(readable_on(background, palette().color(QPalette::WindowText)));
+  const auto align = (label_.Centered ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter;
+  painter.drawText(rect(), static_cast<int>(align) | Qt::TextSingleLine | Qt::TextDontClip,
+                   shown_text(label_.Font, label_.Caption.get()));
+}
+
+ButtonView::ButtonView(QWidget& parent, Button& button) : QPushButton(&parent) {
+  setFont(font_of({}, *this));
+  QObject::connect(this, &QPushButton::clicked, this, [&button] {
+    if (button.OnClick) button.OnClick();
+  });
+}
+
+ShapeView::ShapeView(QWidget& parent, Shape& shape) : ChildView(parent, shape), shape_(shape) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void ShapeView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Qt::black);
+  painter.fillRect(rect().adjusted(1, 1, -1, -1), own_background(shape_));
+}
+
+LineView::LineView(QWidget& parent, LineShape& line) : ChildView(parent, line), line_(line) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void LineView::paintEvent(QPaintEvent*) {
+  const auto* picture = dynamic_cast<const PictureBox*>(line_.container());
+  const bool in_pixels = picture && picture->ScaleMode() == pixels;
+  const double unit = in_pixels ? 1 : 1 / twips_per_pixel;
+  const QPointF half(0.5, 0.5);
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing, line_.X1 != line_.X2 && line_.Y1 != line_.Y2);
+  painter.setPen(QPen(Qt::black, 1));
+  painter.drawLine(QPointF(line_.X1 * unit, line_.Y1 * unit) + half,
+                   QPointF(line_.X2 * unit, line_.Y2 * unit) + half);
+}
+
+PictureView::PictureView(QWidget& parent, PictureBox& box) : ChildView(parent, box), box_(box) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), own_background(box_));
+  try {
+    if (const auto* surface = dynamic_cast<const ImageSurface*>(box_.device()))
+      draw_sharp(painter, surface->pixels());
+  } catch (const RunTimeError&) {
+    // No picture could be made; its background stands in for it.
+  }
+}
+
+void ImageView::paintEvent(QPaintEvent*) {
+  const auto* picture = dynamic_cast<const Picture*>(box_.Picture.get().get());
+  if (!picture) return;
+  QPainter painter(this);
+  if (!box_.Stretch) return painter.drawImage(QPointF(0, 0), picture->image());
+  draw_sharp(painter, stretched(picture->image(), (QSizeF(size()) * devicePixelRatioF()).toSize()));
+}
+
+const QImage& ImageView::stretched(const QImage& image, const QSize& device_size) {
+  if (stretched_from_ != image.cacheKey() || stretched_.size() != device_size) {
+    stretched_ = image.scaled(device_size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    stretched_from_ = image.cacheKey();
+  }
+  return stretched_;
+}
+
+}  // namespace mirolen::qt
