@@ -7,8 +7,8 @@ if(MSVC)
                          $<$<BOOL:${MIROLEN_WARNINGS_AS_ERRORS}>:/WX>)
 else()
   # Results are told to the last bit, so no multiplication may melt into an addition.
-  target_compile_options(mirolen_options INTERFACE -ffp-contract=off -Wall -Wextra -Wpedantic -Wshadow=local
-                         -Wnon-virtual-dtor -Woverloaded-virtual
+  target_compile_options(mirolen_options INTERFACE -ffp-contract=off -Wall -Wextra -Wpedantic -Wnon-virtual-dtor
+                         -Woverloaded-virtual $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>
                          $<$<BOOL:${MIROLEN_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 if(MIROLEN_SANITIZE)

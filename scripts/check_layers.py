@@ -11,8 +11,9 @@ USES = {
     "automation": {"core"},
     "render": {"core"},
     "widgets": {"core", "render"},
-    "controls": {"core", "automation", "render", "widgets"},
-    "qt": {"core", "automation", "render", "widgets", "controls"},
+    "dialogs": {"core", "render", "widgets"},
+    "controls": {"core", "automation", "render", "widgets", "dialogs"},
+    "qt": {"core", "automation", "render", "widgets", "dialogs", "controls"},
 }
 BINDINGS = {"qt"}
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]')

@@ -1,4 +1,5 @@
-// Loads real wafers by arrays and by a data file, prints their statistics and writes the plots as pictures.
+// Loads real wafers by arrays and by a data file, prints their statistics and writes all nine plots as
+// pictures.
 
 #include <QApplication>
 #include <QDir>
@@ -6,10 +7,12 @@
 #include <QtEndian>
 #include <cstdio>
 
+#include "../viewer/plots.h"
 #include "../viewer/wafer_file.h"
 #include "mirolen/qt/Plot2D.h"
 
 using mirolen::qt::Plot2D;
+using mirolen::qt::PlotWidget;
 
 namespace {
 
@@ -71,27 +74,43 @@ bool write_data_file(const SiteList& sites, const QString& path) {
   return file.flush() && written;
 }
 
-/// The same wafer by arrays and by a data file: one picture.
-bool plot_wafer(const QDir& data, const QDir& out) {
-  const SiteList sites = read_csv(data.filePath("oxide_300mm/post_w01.csv"));
-  const QString data_file = out.filePath("post_w01.bin");
-  if (!write_data_file(sites, data_file)) return false;
+/// Writes a picture of one plot of a data file.
+bool write_picture(const NamedPlot& named, const QString& data_file, int sites, const QDir& out) {
+  PlotWidget& plot = *named.plot;
+  plot.resize(900, 680);
+  plot.setWaferDiameter(sets[1].wafer_diameter);  // first: it empties the data
+  plot.setTestDiameter(sets[1].test_diameter);
+  plot.setProperty("PlotCaption", "Film thickness, slot 1 (angstrom)");  // the histogram has none
+  mark_sites(plot, true);
+  if (plot.SetDataFile(data_file, sites) != 0) return false;
+  fit_to_data(plot);
+  const QString path = out.filePath(named.name + ".png");
+  if (plot.Plot() != 0 || !plot.grab().save(path)) return false;
+  std::printf("wrote %s\n", qPrintable(path));
+  return true;
+}
 
+/// The same wafer by arrays and by a data file: one picture.
+bool arrays_and_file_agree(const SiteList& sites, const QString& data_file) {
   Plot2D by_arrays, by_file;
-  for (Plot2D* map : {&by_arrays, &by_file}) set_up(*map, sets[0], "Oxide after etch, wafer 1 (angstrom)");
+  for (Plot2D* map : {&by_arrays, &by_file}) set_up(*map, sets[1], {});
   if (by_arrays.SetWaferData(sites.x, sites.y, sites.z) != 0 || by_arrays.Plot() != 0) return false;
   if (by_file.SetDataFile(data_file, static_cast<double>(sites.x.size())) != 0 || by_file.Plot() != 0)
     return false;
+  if (by_arrays.grab().toImage() == by_file.grab().toImage()) return true;
+  std::printf("arrays and data file gave different pictures\n");
+  return false;
+}
 
-  const QImage picture = by_arrays.grab().toImage();
-  if (picture != by_file.grab().toImage()) {
-    std::printf("arrays and data file gave different pictures\n");
-    return false;
-  }
-  const QString path = out.filePath("plot2d.png");
-  if (!picture.save(path)) return false;
-  std::printf("wrote %s\nwrote %s\n", qPrintable(path), qPrintable(data_file));
-  return true;
+bool plot_wafer(const QDir& data, const QDir& out) {
+  const SiteList sites = read_csv(data.filePath("film_300mm/slot1.csv"));
+  const QString data_file = out.filePath("slot1.bin");
+  if (!write_data_file(sites, data_file)) return false;
+  bool good = arrays_and_file_agree(sites, data_file);
+  QWidget owner;
+  for (const NamedPlot& named : nine_plots(&owner))
+    good &= write_picture(named, data_file, static_cast<int>(sites.x.size()), out);
+  return good;
 }
 
 }  // namespace

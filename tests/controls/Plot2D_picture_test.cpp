@@ -6,21 +6,6 @@
 namespace mirolen {
 namespace {
 
-/// A canvas of the size and background of a picture box, drawn on by hand.
-class Twin {
- public:
-  Twin(const PictureBox& box, const Toolkit& toolkit) : surface_(box.pixel_size(), {15, 15}) {
-    canvas.BackColor(toolkit.resolve(box.BackColor));
-  }
-  const Recording& recording() const { return surface_.recording(); }
-
- private:
-  RecordingSurface surface_;
-
- public:
-  SurfaceCanvas canvas{CanvasKind::picture_box, &surface_};
-};
-
 std::string row(const char* format, double one, double other) {
   char text[80];
   std::snprintf(text, sizeof text, format, one, other);

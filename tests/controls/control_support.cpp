@@ -92,27 +92,6 @@ void SpyToolkit::run_pending_events() {
   HeadlessToolkit::run_pending_events();
 }
 
-void Plot2DTest::place() {
-  control.InitProperties();
-  control.resize_to(6000, 4000);
-  forget_notices();
-}
-
-void Plot2DTest::plot_square() {
-  place();
-  ASSERT_EQ(control.load(square_of_sites()), 0);
-  ASSERT_EQ(control.Plot(), 0);
-  ASSERT_TRUE(control.PlotValid);
-  forget_notices();
-}
-
-void Plot2DTest::forget_notices() {
-  form.changes.clear();
-  form.events.clear();
-  toolkit.messages.clear();
-  toolkit.redraws = 0;
-}
-
 void Plot2DTest::narrow_labels() {
   for (int i = 1; i <= 10; ++i) {
     control.ScaleValue(i).AutoSize = false;
@@ -131,6 +110,11 @@ bool Plot2DTest::picture_is_blank() const {
 SurfaceSize Plot2DTest::snapshot_size() const {
   const std::shared_ptr<const Image> snapshot = control.RePlot.Picture;
   return snapshot ? snapshot->size() : SurfaceSize{};
+}
+
+Twin::Twin(const PictureBox& box, const Toolkit& toolkit) : surface_(box.pixel_size(), {15, 15}) {
+  canvas.ScaleMode(box.ScaleMode());
+  canvas.BackColor(toolkit.resolve(box.BackColor));
 }
 
 const Recording& recording_of(const std::shared_ptr<const Image>& image) {

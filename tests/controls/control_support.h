@@ -7,9 +7,9 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
-#include "mirolen/controls/Plot2D.h"
 #include "mirolen/controls/descriptions.h"
 #include "mirolen/widgets/Headless.h"
 
@@ -54,26 +54,53 @@ class FormWithoutScaleMode : public HeadlessContainer {
   void ScaleMode(std::int16_t) override { throw InvalidArgument("no ScaleMode"); }
 };
 
-/// A Plot2D that shows what it knows about its plot.
-class OpenPlot2D : public Plot2D {
+/// A control that shows what it knows about its plot.
+template <class Control>
+class Open : public Control {
  public:
-  using ControlFrame::LegendShown;
-  using ControlFrame::PlotLimitSet;
-  using ControlFrame::PlotShown;
-  using ControlFrame::PlotValid;
-  using Plot2D::Plot2D;
+  using Control::Control;
+  using Control::LegendShown;
+  using Control::PlotLimitSet;
+  using Control::PlotShown;
+  using Control::PlotValid;
 
-  std::int16_t load(const SiteColumns& sites) { return SetWaferData(sites.x, sites.y, sites.z); }
+  std::int16_t load(const SiteColumns& sites) { return this->SetWaferData(sites.x, sites.y, sites.z); }
 };
 
-/// A Plot2D on a headless form, as new as a constructor leaves it.
-class Plot2DTest : public testing::Test {
+using OpenPlot2D = Open<Plot2D>;
+
+/// A control on a headless form, as new as a constructor leaves it.
+template <class Control>
+class ControlTest : public testing::Test {
  protected:
   /// A control that is new to its form, 6000 by 4000 twips.
-  void place();
+  void place() {
+    control.InitProperties();
+    control.resize_to(6000, 4000);
+    forget_notices();
+  }
   /// The same with the square of sites and a drawn plot; notices and counts start behind that.
-  void plot_square();
-  void forget_notices();
+  void plot_square() {
+    place();
+    ASSERT_EQ(control.load(square_of_sites()), 0);
+    ASSERT_EQ(control.Plot(), 0);
+    forget_notices();
+  }
+  void forget_notices() {
+    form.changes.clear();
+    form.events.clear();
+    toolkit.messages.clear();
+    toolkit.redraws = 0;
+  }
+  automation::Object object() { return described(static_cast<Control&>(control)); }
+
+  SpyToolkit toolkit;
+  HeadlessContainer form;
+  Open<Control> control{toolkit, form};
+};
+
+class Plot2DTest : public ControlTest<Plot2D> {
+ protected:
   /// Makes every value label end at 1000 twips, so that the legend takes its least width.
   void narrow_labels();
 
@@ -81,10 +108,76 @@ class Plot2DTest : public testing::Test {
   /// Of the snapshot in pixels; 0 by 0 without one.
   SurfaceSize snapshot_size() const;
   bool stretched() const { return control.RePlot.Stretch; }
+};
 
-  SpyToolkit toolkit;
-  HeadlessContainer form;
-  OpenPlot2D control{toolkit, form};
+/// A canvas of the size, scale and background of a picture box, drawn on by hand.
+class Twin {
+ public:
+  Twin(const PictureBox& box, const Toolkit& toolkit);
+  const Recording& recording() const { return surface_.recording(); }
+
+ private:
+  RecordingSurface surface_;
+
+ public:
+  SurfaceCanvas canvas{CanvasKind::picture_box, &surface_};
+};
+
+/// The calls of one kind in a recording, in their order.
+template <class Call>
+std::vector<Call> calls_of(const Recording& recording) {
+  std::vector<Call> calls;
+  for (const recorded::Call& call : recording)
+    if (const auto* found = std::get_if<Call>(&call)) calls.push_back(*found);
+  return calls;
+}
+
+/// All nine controls, for typed tests, and the name of each.
+using AllControls =
+    testing::Types<LineScan, Plot2D, Plot2DS, Plot2DC, Plot2DN, Plot2DB, Plot3D, Plot3DS, Histogram>;
+template <class Control>
+const automation::ClassInfo& description_of();
+template <>
+inline const automation::ClassInfo& description_of<LineScan>() {
+  return description_of_LineScan();
+}
+template <>
+inline const automation::ClassInfo& description_of<Plot2D>() {
+  return description_of_Plot2D();
+}
+template <>
+inline const automation::ClassInfo& description_of<Plot2DS>() {
+  return description_of_Plot2DS();
+}
+template <>
+inline const automation::ClassInfo& description_of<Plot2DC>() {
+  return description_of_Plot2DC();
+}
+template <>
+inline const automation::ClassInfo& description_of<Plot2DN>() {
+  return description_of_Plot2DN();
+}
+template <>
+inline const automation::ClassInfo& description_of<Plot2DB>() {
+  return description_of_Plot2DB();
+}
+template <>
+inline const automation::ClassInfo& description_of<Plot3D>() {
+  return description_of_Plot3D();
+}
+template <>
+inline const automation::ClassInfo& description_of<Plot3DS>() {
+  return description_of_Plot3DS();
+}
+template <>
+inline const automation::ClassInfo& description_of<Histogram>() {
+  return description_of_Histogram();
+}
+struct ControlNames {
+  template <class Control>
+  static std::string GetName(int) {
+    return description_of<Control>().name;
+  }
 };
 
 /// The recording that an image holds. @throws for none and for another kind.

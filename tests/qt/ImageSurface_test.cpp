@@ -203,6 +203,29 @@ TEST(ImageSurface, ASnapshotStaysAsItWas) {
   EXPECT_EQ(snapshot->size(), (SurfaceSize{10, 10}));
 }
 
+TEST(ImageSurface, RestoresASnapshotAlsoOneOfAnotherScreen) {
+  for (const double ratio : {1.0, 1.25, 2.0}) {
+    ImageSurface surface({20, 10}, ratio);
+    surface.rectangle(no_pen, {blue}, {{0, 0}, {9, 9}});
+    const auto kept = surface.snapshot();
+    const QImage before = surface.pixels();
+    surface.clear(red);
+    surface.restore(*kept);
+    EXPECT_EQ(surface.pixels(), before) << ratio;
+
+    ImageSurface finer({20, 10}, 4);
+    finer.restore(*kept);
+    EXPECT_EQ(pixel(finer, 30, 39), blue) << ratio;
+    EXPECT_EQ(pixel(finer, 50, 0), white) << ratio;
+  }
+}
+
+TEST(ImageSurface, LeavesOutASnapshotOfAnotherKind) {
+  ImageSurface surface({10, 10}, 1);
+  surface.restore(*RecordingSurface({10, 10}).snapshot());
+  EXPECT_EQ(colors_in(surface.pixels()), std::set<Color>{white});
+}
+
 TEST(ImageSurface, ShowsAtOnceOnlyWhatAScreenCanShow) {
   std::vector<bool> shown;
   ImageSurface surface({10, 10}, 1, [&](bool at_once) { shown.push_back(at_once); });

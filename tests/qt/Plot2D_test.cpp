@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QMetaProperty>
 #include <QSignalSpy>
 
 #include "qt/qt_support.h"
@@ -12,40 +11,6 @@ namespace {
 
 using namespace qt_test;
 using qt::Plot2D;
-
-struct Change {
-  const char* property;
-  QVariant value;
-};
-
-void PrintTo(const Change& change, std::ostream* out) { *out << change.property; }
-
-class Plot2DProperty : public testing::TestWithParam<Change> {};
-
-TEST_P(Plot2DProperty, IsSetByNameAndTellsItsChange) {
-  Plot2D face;
-  const auto& [name, value] = GetParam();
-  const QMetaProperty property = face.metaObject()->property(face.metaObject()->indexOfProperty(name));
-  ASSERT_TRUE(property.isValid() && property.hasNotifySignal());
-  QSignalSpy changed(&face, property.notifySignal());
-  ASSERT_TRUE(face.setProperty(name, value));
-  EXPECT_EQ(changed.size(), 1);
-  const QVariant now = property.isEnumType() ? QVariant(face.property(name).toInt()) : face.property(name);
-  EXPECT_EQ(now, value) << now.toString().toStdString();
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    All, Plot2DProperty,
-    testing::Values(Change{"WaferDiameter", 300.0}, Change{"TestDiameter", 150.5}, Change{"Resolution", 2.5},
-                    Change{"WaferStyle", 2}, Change{"ShowSites", -1}, Change{"HideLegend", true},
-                    Change{"PlotCaption", "Oxide µm"}, Change{"BackColor", QColor(10, 20, 30)},
-                    Change{"MousePointer", 2}, Change{"IntervalColor0", QColor(1, 2, 3)},
-                    Change{"IntervalColor1", QColor(2, 2, 3)}, Change{"IntervalColor2", QColor(3, 2, 3)},
-                    Change{"IntervalColor3", QColor(4, 2, 3)}, Change{"IntervalColor4", QColor(5, 2, 3)},
-                    Change{"IntervalColor5", QColor(6, 2, 3)}, Change{"IntervalColor6", QColor(7, 2, 3)},
-                    Change{"IntervalColor7", QColor(8, 2, 3)}, Change{"IntervalColor8", QColor(9, 2, 3)},
-                    Change{"IntervalColor9", QColor(10, 2, 3)}),
-    [](const auto& param) { return std::string(param.param.property); });
 
 TEST(Plot2DFace, StartsWithTheSettingsOfANewControl) {
   const Plot2D face;

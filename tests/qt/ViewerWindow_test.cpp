@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QMenuBar>
 #include <QStringList>
+#include <QTabWidget>
 
 #include "mirolen/qt/peers.h"
 #include "qt/qt_support.h"
@@ -27,6 +28,7 @@ struct QuietViewer : ViewerWindow {
       if (label->text() == figure) return true;
     return false;
   }
+  qt::Plot2D& map() { return dynamic_cast<qt::Plot2D&>(plot(0)); }
   std::shared_ptr<const Image> rendering() { return map().control().RePlot.Picture; }
 
   QStringList complaints;
@@ -88,6 +90,24 @@ TEST_F(Viewer, ChangesTheLookFromItsMenu) {
   EXPECT_TRUE(window.map().HideLegend());
   EXPECT_FALSE(qt::view_of(window.map().control().frmove)->isVisible());
   EXPECT_EQ(window.action("Open CSV...").shortcut(), QKeySequence("Ctrl+O"));
+}
+
+TEST_F(Viewer, DrawsAPageWhenItIsSeen) {
+  ASSERT_EQ(window.tabs().count(), 9);
+  for (int page = 1; page < 9; ++page) {
+    EXPECT_EQ(window.plot(page).mean(), 0) << "not loaded yet: " << page;
+    window.tabs().setCurrentIndex(page);
+    EXPECT_NEAR(window.plot(page).mean(), 17.0395, 1e-4) << page;
+    EXPECT_GT(qt_test::colors_in(window.plot(page).grab().toImage()).size(), 8u) << page;
+  }
+}
+
+TEST_F(Viewer, ChangesPagesThatAreNotSeenToo) {
+  window.action("Hide legend").trigger();
+  window.action("Show sites").trigger();
+  EXPECT_TRUE(window.plot(8).HideLegend());
+  EXPECT_TRUE(window.plot(8).property("ShowSites").toBool());
+  EXPECT_EQ(window.plot(2).property("marksites").toInt(), 1);
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ std::set<Color> colors_in(const QImage& image) {
   return colors;
 }
 
-void load_slope(qt::Plot2D& face) {
+void load_slope(qt::PlotWidget& face) {
   std::vector<double> x, y, z;
   for (int i = -20; i <= 20; i += 10)
     for (int j = -20; j <= 20; j += 10) {

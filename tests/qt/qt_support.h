@@ -19,8 +19,8 @@ Color pixel(const QImage& image, int x, int y);
 inline Color pixel(const qt::ImageSurface& surface, int x, int y) { return pixel(surface.pixels(), x, y); }
 std::set<Color> colors_in(const QImage& image);
 
-/// Loads a map with sites in a square of 40 mm whose values grow to the right.
-void load_slope(qt::Plot2D& face);
+/// Loads a plot with sites in a square of 40 mm whose values grow to the right.
+void load_slope(qt::PlotWidget& face);
 
 /// A face of 600 x 450 pixels that is shown and has its plot.
 struct ShownPlot {

@@ -4,9 +4,8 @@
 #include <cmath>
 #include <map>
 
-#include "mirolen/render/Screen.h"
 #include "plain_map.h"
-#include "support/site_support.h"
+#include "sample_wafers.h"
 
 namespace mirolen {
 namespace {
@@ -15,46 +14,16 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr double kNotch = 1.0, kFlat = 0.98;
-const CanvasKind kKinds[] = {CanvasKind::printer, CanvasKind::picture_box, CanvasKind::other};
-
-wafer wafer_with(const SiteList& sites, double flat_ratio = kNotch, double diameter = 200,
-                 double test = 200) {
-  wafer made;
-  set_diameters(made, diameter, test);
-  made.flat_ratio = flat_ratio;
-  store(made, sites);
-  if (!sites.empty()) made.MaxMin();
-  return made;
-}
-
-double bowl(double x, double y) { return 40 + x / 20 - y / 15 + (x * x + y * y) / 700; }
-
-/// SiteList spread evenly over a disc of the radius 95.
-SiteList spiral(int count, double (*value)(double, double) = bowl) {
-  SiteList sites;
-  for (int i = 0; i < count; ++i) {
-    const double radius = 95 * std::sqrt((i + 0.5) / count), angle = 2.4 * i;
-    const double x = radius * std::cos(angle), y = radius * std::sin(angle);
-    sites.push_back({x, y, value(x, y)});
-  }
-  return sites;
-}
-
 /// Four sites on the grid nodes next to the centre of a 200 mm wafer with cells of 25 mm.
 SiteList around_centre(double upper, double lower) {
   return {{25, 25, upper}, {-25, 25, upper}, {25, -25, lower}, {-25, -25, lower}};
 }
 
-/// SiteList on all corners of the cell above and right of the centre, so that its value is theirs.
-SiteList on_corners_of_one_cell(double z) { return {{0, 0, z}, {25, 0, z}, {0, 25, z}, {25, 25, z}}; }
 const char* const kThatCell = "Polygon 128,78 103,78 103,103 128,103";
 
 std::string describe(const CanvasSetup& setup, const MapRequest& request) {
-  return line_of("kind, ShowDispl, style, sigma, marks, res:", static_cast<int>(setup.kind),
-                 request.ShowDispl, request.PlotStyle, request.SigmaRange, request.marksites, request.res) +
-         line_of("; twips", setup.twips_per_pixel.width, setup.twips_per_pixel.height) +
-         line_of("; fails in " + setup.fails_in + " or at", setup.fails_at);
+  return describe(setup) + line_of("; ShowDispl, style, sigma, marks, res:", request.ShowDispl,
+                                   request.PlotStyle, request.SigmaRange, request.marksites, request.res);
 }
 
 RecordingCanvas drawn_map(const wafer& source, const CanvasSetup& setup, const MapRequest& request) {
@@ -95,16 +64,6 @@ int number_of_cells(const wafer& source, double res) {
   const Lines lines = drawn_map(source, {}, request).lines();
   return static_cast<int>(std::count(lines.begin(), lines.end(), "DrawStyle=5"));
 }
-
-/// Twips of a screen for one test.
-class ScreenOf {
- public:
-  ScreenOf(double x, double y) { screen() = {x, y, {}}; }
-  ~ScreenOf() { screen() = before_; }
-
- private:
-  Screen before_ = screen();
-};
 
 // ---- Worked out by hand: cells of 25 units, centre at (103, 103), one unit a millimetre ----
 
@@ -533,21 +492,6 @@ TEST(D2Plot, TakesAnyStyleButFiveForASigmaMap) {
 
 // ---- What stays of it in the wafer ----
 
-void expect_same_fields(const wafer& actual, const wafer& expected) {
-  EXPECT_EQ(actual.Low, expected.Low);
-  EXPECT_EQ(actual.range, expected.range);
-  EXPECT_EQ(actual.HiLo, expected.HiLo);
-  EXPECT_EQ(actual.maximal, expected.maximal);
-  EXPECT_EQ(actual.minimal, expected.minimal);
-  EXPECT_EQ(actual.maxi, expected.maxi);
-  EXPECT_EQ(actual.mini, expected.mini);
-  EXPECT_EQ(actual.mean, expected.mean);
-  EXPECT_EQ(actual.StdDev, expected.StdDev);
-  EXPECT_EQ(actual.test_diam, expected.test_diam);
-  EXPECT_EQ(actual.WafDiam, expected.WafDiam);
-  EXPECT_EQ(sites_of(actual), sites_of(expected));
-}
-
 TEST(D2Plot, LeavesTheScaleFieldsConsistent) {
   const std::vector<std::pair<double, double>> limits = {{60, 20}, {7, 7}, {-3, -3}, {1, -1}};
   for (const auto& [upper, lower] : limits) {
@@ -608,12 +552,6 @@ TEST(D2PlotComputed, EveryNumberOfSites) {
       for (const std::int16_t marks : {0, -1})
         expect_as_worked_out(wafer_with(spiral(count)), {}, {12, style, 1.0, marks, {}, 0});
 }
-
-double falling(double x, double y) { return -bowl(x, y); }
-double mixed(double x, double y) { return x - y / 3; }
-double tiny(double x, double y) { return 1e-9 * bowl(x, y); }
-double same(double, double) { return 7; }
-double nothing(double, double) { return 0; }
 
 TEST(D2PlotComputed, EveryRangeOfValuesWithAndWithoutLimits) {
   const std::vector<std::pair<double, double>> limits = {
@@ -709,39 +647,13 @@ TEST(D2Plot, ThrowsNothingForNumbersThatLeaveTheRangeOfADouble) {
 
 class D2PlotOfRandomInput : public RandomInput {
  protected:
-  wafer any_wafer() {
-    const double diameter = between(random, 50.0, 400.0);
-    const double test = diameter * between(random, 0.7, 1.0);
-    SiteList sites;
-    for (int left = between(random, 0, 40); left > 0; --left) {
-      const double angle = between(random, 0.0, 6.3),
-                   radius = test / 2 * std::sqrt(between(random, 0.0, 1.0));
-      sites.push_back({radius * std::cos(angle), radius * std::sin(angle), between(random, -3.0, 9.0)});
-    }
-    wafer made = wafer_with(sites, chance(random, 0.5) ? kNotch : between(random, 0.6, 1.0), diameter, test);
-    if (chance(random, 0.5)) made.setMaximalMinial(between(random, 2.0, 9.0), between(random, -5.0, 2.0));
-    if (chance(random, 0.2)) made.col3 = made.ColS1 = 15;
-    return made;
-  }
-
-  CanvasSetup any_setup() {
-    CanvasSetup setup;
-    setup.kind = one_of(random, std::vector<CanvasKind>(std::begin(kKinds), std::end(kKinds)));
-    setup.scale = {between(random, -50.0, 50.0), between(random, -50.0, 50.0), between(random, 20.0, 900.0),
-                   between(random, 20.0, 900.0)};
-    setup.twips_per_pixel = {between(random, 1.0, 30.0), between(random, 1.0, 30.0)};
-    if (chance(random, 0.2)) setup.fails_at = between(random, 1, 40);
-    return setup;
-  }
-
   MapRequest any_request() {
     MapRequest request;
     request.res = between(random, 2.0, 60.0);
     request.PlotStyle = static_cast<std::int16_t>(between(random, 4, 5));
     request.SigmaRange = one_of(random, std::vector<double>{0, 0.3, 1, 2.5});
     request.marksites = static_cast<std::int16_t>(between(random, -1, 0));
-    request.area = {between(random, -500.0, 500.0), between(random, -500.0, 500.0),
-                    between(random, 500.0, 9000.0), between(random, 500.0, 9000.0)};
+    request.area = any_area(random);
     request.ShowDispl = static_cast<std::int16_t>(between(random, 0, 1));
     return request;
   }
@@ -750,8 +662,8 @@ class D2PlotOfRandomInput : public RandomInput {
 TEST_F(D2PlotOfRandomInput, MatchesThePlainComputation) {
   for (int round = 0; round < 150; ++round) {
     SCOPED_TRACE("round " + std::to_string(round));
-    const wafer source = any_wafer();
-    const CanvasSetup setup = any_setup();
+    const wafer source = any_wafer(random);
+    const CanvasSetup setup = any_setup(random);
     expect_as_worked_out(source, setup, any_request());
     if (HasFailure()) return;
   }

@@ -286,18 +286,23 @@ struct Decimal {
   int power = 0;
 };
 
-Decimal decimal_of(double value) {
-  char text[40];
-  std::snprintf(text, sizeof text, "%.14e", std::abs(value));
-  return {std::string(1, text[0]) + std::string(text + 2, 14), std::atoi(text + 17)};
-}
-
 void add_one_at_the_end(std::string& digits) {
   for (std::size_t place = digits.size(); place-- > 0;) {
     if (++digits[place] <= '9') return;
     digits[place] = '0';
   }
   digits.insert(0, 1, '1');
+}
+
+/// Rounded from the exact digits of the number, ties up.
+Decimal decimal_of(double value) {
+  char text[120];
+  std::snprintf(text, sizeof text, "%.80e", std::abs(value));
+  Decimal number{text[0] + std::string(text + 2, 14), std::atoi(text + 83)};
+  if (text[16] >= '5') add_one_at_the_end(number.digits);
+  if (number.digits.size() > 15) ++number.power;
+  number.digits.resize(15);
+  return number;
 }
 
 /// A positive number with a fixed number of places.

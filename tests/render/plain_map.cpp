@@ -3,59 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "mirolen/render/Screen.h"
-
 namespace mirolen {
-
-RecordingCanvas CanvasSetup::canvas() const {
-  RecordingCanvas canvas(kind, scale);
-  canvas.twips_per_pixel = twips_per_pixel;
-  if (!fails_in.empty()) canvas.log.fail_in(fails_in);
-  canvas.log.fail_at(fails_at);
-  canvas.log.keeps_reads = true;
-  return canvas;
-}
 
 void draw_map(wafer& source, PlotCanvas& canvas, const MapRequest& request) {
   source.D2Plot(canvas, request.res, request.PlotStyle, request.SigmaRange, request.marksites,
                 request.area.left, request.area.top, request.area.width, request.area.height,
                 request.ShowDispl);
-}
-
-void PlainMap::statement(const std::function<void()>& body) {
-  try {
-    body();
-  } catch (const Failure&) {
-    area = {request.area.left / 4.8, request.area.top / 4.8, request.area.width / 4.8,
-            request.area.height / 4.8};
-  }
-}
-
-void PlainMap::call(const std::string& member, const std::string& line) {
-  if (++calls == setup.fails_at || member == setup.fails_in) throw Failure();
-  said.push_back(line);
-}
-
-void PlainMap::say(const std::string& member, const std::string& line) {
-  statement([&] { call(member, line); });
-}
-
-void PlainMap::say_set(const std::string& member, double number) { say(member, set_line(member, number)); }
-
-double PlainMap::property(const std::string& member, double value) {
-  call(member, read_line(member));
-  return value;
-}
-
-double PlainMap::divided(double number, double by) const {
-  if (by == 0) throw Failure();
-  return number / by;
-}
-
-double PlainMap::rounded_to_16_bits(double number) const {
-  const double whole = std::nearbyint(number);
-  if (!(std::abs(whole) <= 32767)) throw Failure();
-  return whole;
 }
 
 Lines PlainMap::lines() {
@@ -66,12 +19,10 @@ Lines PlainMap::lines() {
 }
 
 void PlainMap::set_up() {
-  if (request.ShowDispl != 1) {
-    say("Cls", "Cls");
-    say("Refresh", "Refresh");
-  }
+  clear();
   find_scale_limits();
   find_area();
+  find_mark_sizes();
   find_grid_size();
   statement(
       [&] { S = std::min(divided(area.width - 6, 2 * n * res), divided(area.height - 6, 2 * n * res)); });
@@ -89,48 +40,11 @@ void PlainMap::find_scale_limits() {
     lo = w.minimal - e;
     hi = w.maximal + e;
   }
-  if (hi != lo)
-    Low = lo - (hi - lo) * 0.1;
-  else if (lo < 0)
-    Low = 1.1 * lo - 0.001;
-  else
-    Low = 0.9 * lo - 0.001;
-}
-
-void PlainMap::find_edges(std::function<double()> left, std::function<double()> width,
-                          std::function<double()> top, std::function<double()> height) {
-  statement([&] { area.left = left(); });
-  statement([&] { area.width = width(); });
-  statement([&] { area.top = top(); });
-  statement([&] { area.height = height(); });
-}
-
-void PlainMap::find_area() {
-  const auto wanted = request.area;
-  const auto twips_x = [&] { return property("TwipsPerPixelX", setup.twips_per_pixel.width); };
-  const auto twips_y = [&] { return property("TwipsPerPixelY", setup.twips_per_pixel.height); };
-  const Screen at_screen = screen();
-  if (setup.kind == CanvasKind::printer) {
-    find_edges(
-        [&] { return divided(wanted.left, twips_x()); }, [&] { return divided(wanted.width, twips_x()); },
-        [&] { return divided(wanted.top, twips_y()); }, [&] { return divided(wanted.height, twips_y()); });
-    find_mark_sizes();
-  } else if (request.ShowDispl == 1) {
-    find_edges([&] { return divided(wanted.left, at_screen.TwipsPerPixelX); },
-               [&] { return divided(wanted.width, at_screen.TwipsPerPixelX); },
-               [&] { return divided(wanted.top, at_screen.TwipsPerPixelY); },
-               [&] { return divided(wanted.height, at_screen.TwipsPerPixelY); });
-  } else {
-    find_edges([&] { return property("ScaleLeft", setup.scale.left); },
-               [&] { return property("ScaleWidth", setup.scale.width); },
-               [&] { return property("ScaleTop", setup.scale.top); },
-               [&] { return property("ScaleHeight", setup.scale.height); });
-  }
+  Low = scale_base(hi, lo);
 }
 
 void PlainMap::find_mark_sizes() {
-  const auto twips_x = [&] { return property("TwipsPerPixelX", setup.twips_per_pixel.width); };
-  const auto twips_y = [&] { return property("TwipsPerPixelY", setup.twips_per_pixel.height); };
+  if (setup.kind != CanvasKind::printer) return;
   a = b = c = 0;
   statement([&] { a = rounded_to_16_bits(12 * twips_x()); });
   statement([&] { b = rounded_to_16_bits(4 * twips_y()); });
@@ -197,24 +111,14 @@ void PlainMap::paint_cell(int column, int line, double zA, double zB, double zC,
   say_set("DrawStyle", 5);
   const double color = zc == 0 || count > 2 ? 15.0 : color_of(zc);
   if (color == 15.0) return;
-  say_set("FillColor",
-          std::fmod(std::fmod(std::nearbyint(color), 4294967296.0) + 4294967296.0, 4294967296.0));
+  say_set("FillColor", as_color(color));
   say_set("FillStyle", 0);
   say("Polygon", cell_polygon(column, line));
 }
 
 double PlainMap::color_of(double zc) const {
-  return request.PlotStyle == 5 ? band_color(zc) : sigma_color(zc);
-}
-
-double PlainMap::band_color(double zc) const {
-  const double colors[] = {w.col1, w.col2, w.col3, w.col4, w.col5, w.col6, w.col7, w.col8, w.col9, w.col10};
-  double color = 0;
-  if (zc >= S - I) color = colors[0];
-  for (int k = 1; k <= 8; ++k)
-    if (S - (k + 1) * I <= zc && zc < S - k * I) color = colors[k];
-  if (zc < S - 9 * I) color = colors[9];
-  return hi == lo ? w.col6 : color;
+  if (request.PlotStyle != 5) return sigma_color(zc);
+  return hi == lo ? w.col6 : band_color(zc, S, I);
 }
 
 double PlainMap::sigma_color(double zc) const {
@@ -225,14 +129,13 @@ double PlainMap::sigma_color(double zc) const {
   return w.ColS2;
 }
 
-PixelPoint PlainMap::pixel(int column, int line) const {
-  return {static_cast<std::int32_t>(std::nearbyint(cx + column * res * S)),
-          static_cast<std::int32_t>(std::nearbyint(cy - line * res * S))};
+PixelPoint PlainMap::node_pixel(int column, int line) const {
+  return pixel(cx + column * res * S, cy - line * res * S);
 }
 
 std::string PlainMap::cell_polygon(int column, int line) const {
-  const PixelPoint points[] = {pixel(column, line), pixel(column - 1, line), pixel(column - 1, line - 1),
-                               pixel(column, line - 1)};
+  const PixelPoint points[] = {node_pixel(column, line), node_pixel(column - 1, line),
+                               node_pixel(column - 1, line - 1), node_pixel(column, line - 1)};
   return polygon_line(points);
 }
 
@@ -255,10 +158,6 @@ void PlainMap::mark(double px, double py, bool plus) {
 void PlainMap::filled_box(double x, double y, double half_width, double half_height, int color) {
   say("Line",
       line_of("Line", 38, x - half_width, y - half_height, x + half_width, y + half_height, QBColor(color)));
-}
-
-void PlainMap::refresh_picture_box() {
-  if (setup.kind == CanvasKind::picture_box) say("Refresh", "Refresh");
 }
 
 }  // namespace mirolen

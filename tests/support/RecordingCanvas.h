@@ -64,6 +64,7 @@ class RecordingCanvas : public PlotCanvas {
   void Font(const FontSpec& font) override;
 
   void Cls() override;
+  void keep_as_background() override { log.call("keep_as_background", "keep_as_background"); }
   void Refresh() override { log.call("Refresh", "Refresh"); }
   /// "Line flags x1 y1 x2 y2 colour"; "-" stands for what a caller left out.
   void Line(std::int16_t flags, double x1, double y1, double x2, double y2,

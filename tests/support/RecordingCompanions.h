@@ -62,6 +62,49 @@ class RecordingLegend {
   std::array<RecordingLabel, 10> labels_;
 };
 
+/// The five labels of an axis.
+class RecordingAxis {
+ public:
+  RecordingAxis() {
+    for (std::size_t index = 0; index < captions_.size(); ++index) labels[index] = &captions_[index];
+  }
+  RecordingAxis(const RecordingAxis&) = delete;
+  RecordingAxis& operator=(const RecordingAxis&) = delete;
+
+  AxisLabels labels;
+
+  /// What each of them was told, in their order; "(nothing)" for one that was told nothing.
+  Lines texts() const {
+    Lines told;
+    for (const RecordingCaption& caption : captions_) told.push_back(caption.text.value_or("(nothing)"));
+    return told;
+  }
+
+ private:
+  std::array<RecordingCaption, 5> captions_;
+};
+
+/// "add", "hide_all" and "show mark left top tool tip".
+class RecordingMarks : public SiteMarks {
+ public:
+  explicit RecordingMarks(int count) : count_(count) {}
+
+  mutable CallLog log;
+
+  int count() const override { return log.read("count"), count_; }
+  void add() override {
+    log.call("add", "add");
+    ++count_;
+  }
+  void hide_all() override { log.call("hide_all", "hide_all"); }
+  void show(int mark, double left, double top, const std::string& tool_tip) override {
+    log.call("show", line_of("show", mark, left, top) + ' ' + tool_tip);
+  }
+
+ private:
+  int count_;
+};
+
 class RecordingLine : public IndicatorLine {
  public:
   CallLog log;

@@ -78,6 +78,7 @@ class BlindToolkit : public HeadlessToolkit {
     void text(const FontSpec&, Color, std::optional<Color>, SurfacePoint, std::string_view) override {}
     SurfaceSize measure(const FontSpec&, std::string_view) const override { return {}; }
     void flood_fill(const Brush&, PixelPoint, Color) override {}
+    void restore(const mirolen::Image&) override {}
     std::shared_ptr<const Image> snapshot() const override { return nullptr; }
     void refresh() override {}
   };

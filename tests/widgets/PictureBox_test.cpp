@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "mirolen/widgets/Headless.h"
 #include "mirolen/widgets/widgets.h"
 
@@ -161,6 +163,20 @@ TEST_F(Picture, MovesAsAnIndicatorMark) {
   EXPECT_EQ(box.Top.get(), -45);
   EXPECT_EQ(box.Width.get(), 1500);
   EXPECT_FALSE(box.Visible);
+}
+
+TEST_F(Picture, WhatIsKeptAsBackgroundOutlastsCls) {
+  draw();
+  box.keep_as_background();
+  box.Line(line_flags, 10, 20, 30, 40, white);
+  box.Cls();
+  const Recording shown = recording_of(box);
+  EXPECT_EQ(std::count_if(shown.begin(), shown.end(),
+                          [](const auto& call) { return std::holds_alternative<recorded::Line>(call); }),
+            1);
+  box.forget_background();
+  box.Cls();
+  EXPECT_TRUE(is_blank(white));
 }
 
 }  // namespace

@@ -107,5 +107,67 @@ TEST_F(SingleWidgets, TheInnerSizeOfAControlIsItsSize) {
   EXPECT_EQ(root.ScaleHeight(), 4000);
 }
 
+using TextFields = SingleWidgets;
+
+TEST_F(TextFields, AnotherTextRaisesAChangeAnEqualOneNone) {
+  TextField field(&root);
+  int changes = 0;
+  field.OnChange = [&] { ++changes; };
+  field.Text("");
+  EXPECT_EQ(changes, 0);
+  field.Text("5");
+  field.Text("5");
+  EXPECT_EQ(changes, 1);
+  field.Text("");
+  EXPECT_EQ(changes, 2);
+}
+
+TEST_F(TextFields, HaveTheirNewTextWhenTheChangeIsRaised) {
+  TextField field(&root);
+  std::string seen;
+  field.OnChange = [&] { seen = field.Text(); };
+  field.Text("5");
+  EXPECT_EQ(seen, "5");
+}
+
+TEST_F(TextFields, MayBeChangedFromTheirOwnChange) {
+  TextField field(&root);
+  field.OnChange = [&] { field.Text("0"); };
+  field.Text("bad");
+  EXPECT_EQ(field.Text(), "0");
+}
+
+using SpinButtons = SingleWidgets;
+
+TEST_F(SpinButtons, HoldTheirValueToTheirEnds) {
+  UpDown spinner(&root);
+  spinner.Min = -2;
+  spinner.Max = 359;
+  for (const auto& [told, kept] : {std::pair{360, 359}, {-3, -2}, {0, 0}, {359, 359}}) {
+    spinner.Value(told);
+    EXPECT_EQ(spinner.Value(), kept);
+  }
+}
+
+TEST_F(SpinButtons, AnotherValueRaisesAChangeAnEqualOneNone) {
+  UpDown spinner(&root);
+  int changes = 0;
+  spinner.OnChange = [&] { ++changes; };
+  spinner.Value(0);
+  EXPECT_EQ(changes, 0);
+  spinner.Value(100);
+  spinner.Value(101);  // held to 100, which it is
+  EXPECT_EQ(changes, 1);
+}
+
+using Shapes = SingleWidgets;
+
+TEST_F(Shapes, AreRectanglesUntilToldOtherwise) {
+  Shape shape(&root);
+  EXPECT_EQ(shape.Look.get(), Shape::Form::rectangle);
+  shape.Look = Shape::Form::cross;
+  EXPECT_EQ(shape.Look.get(), Shape::Form::cross);
+}
+
 }  // namespace
 }  // namespace mirolen

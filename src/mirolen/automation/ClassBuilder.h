@@ -83,6 +83,9 @@ inline constexpr bool is_optional<std::optional<T>> = true;
 /// whose first parameter is the object: a reference parameter behind it is an argument by reference.
 template <class Class>
 class ClassBuilder {
+  template <class T>
+  using Bare = std::remove_cvref_t<T>;
+
  public:
   explicit ClassBuilder(std::string name) { info_.name = std::move(name); }
 
@@ -97,9 +100,23 @@ class ClassBuilder {
     return add(std::move(name), MemberKind::let, std::move(meaning), {"v"}, setter);
   }
 
+  /// A property of two members of one name, told as &Class::Name twice.
+  template <class Value, class Passed, class Reader, class Writer>
+  ClassBuilder& property(std::string name, std::string meaning, Value (Reader::*getter)() const,
+                         void (Writer::*setter)(Passed)) {
+    return property(
+        std::move(name), std::move(meaning), [getter](const Class& object) { return (object.*getter)(); },
+        [setter](Class& object, Bare<Passed> v) { (object.*setter)(std::move(v)); });
+  }
+  template <class Value, class Base>
+  ClassBuilder& read_only(std::string name, std::string meaning, Value (Base::*getter)() const) {
+    return read_only(std::move(name), std::move(meaning),
+                     [getter](const Class& object) { return (object.*getter)(); });
+  }
+
   /// A public data member.
-  template <class T>
-  ClassBuilder& field(std::string name, std::string meaning, T Class::*member) {
+  template <class T, class Base>
+  ClassBuilder& field(std::string name, std::string meaning, T Base::*member) {
     return property(
         std::move(name), std::move(meaning), [member](const Class& object) { return object.*member; },
         [member](Class& object, const T& v) { object.*member = v; });
@@ -143,9 +160,6 @@ class ClassBuilder {
   ClassInfo build() { return std::move(info_); }
 
  private:
-  template <class T>
-  using Bare = std::remove_cvref_t<T>;
-
   template <class Function>
   ClassBuilder& add(std::string name, MemberKind kind, std::string meaning,
                     std::initializer_list<const char*> argument_names, Function function) {

@@ -99,10 +99,11 @@ std::int16_t ControlFrame::Plot() {
 
 bool ControlFrame::SetPlotLimit(double LPL, double UPL) {
   if (UPL == wafobj.maximal && LPL == wafobj.minimal) return false;
-  PlotLimitSet = false;
-  quietly([&] { PlotLimitSet = GlobalFunctions::ApplyPlotLimit(wafobj, LPL, UPL); });
-  replot();
-  return PlotLimitSet;
+  bool taken = false;
+  quietly([&] { taken = GlobalFunctions::ApplyPlotLimit(wafobj, LPL, UPL); });
+  PlotLimitSet = taken;
+  replot();  // the host may change the limits again while it draws
+  return taken;
 }
 
 void ControlFrame::ReleasePlotLimit() {

@@ -26,10 +26,12 @@ class ControlFrame : public UserControl {
   /// and 2.
   /// @return 0 loaded; 1 the upper bound of y is neither that of x nor that of Z; 2 the same for lower
   /// bounds; 4 any other error: too short an array, no sites or more than 32,767, a number that is not
-  /// finite, a site far outside the wafer. On 4 the drawing stays.
+  /// finite, a site far outside the wafer. On 4 the drawing stays, though the data before may be gone.
   std::int16_t SetWaferData(const ArrayView& x, const ArrayView& y, const ArrayView& Z);
   /// Loads nops sites from a binary file: all x, all y, all z as little-endian doubles, without a header. A
-  /// file that is too short counts as filled up with zeros. @return 0 loaded; 4 any failure.
+  /// file that is too short counts as filled up with zeros. The drawing is wiped and the data before are
+  /// gone, also on
+  /// 4. @return 0 loaded; 4 any failure.
   std::int16_t SetDataFile(const std::string& datafile, double nops);
   /// Fills the arrays, resized to (1 To n), with the sites. @return n; with 0 the arrays stay as they are.
   double GetWaferData(Array& x, Array& y, Array& Z) const;
@@ -46,9 +48,9 @@ class ControlFrame : public UserControl {
 
   /// Sets the ends of the scale; draws at once if there is a plot. @return true if a new limit was taken: LPL
   /// below UPL and not both in force already. A refused one leaves the scale as it is.
-  bool SetPlotLimit(double LPL, double UPL);
+  virtual bool SetPlotLimit(double LPL, double UPL);
   /// Puts the scale back to the data's own extremes.
-  void ReleasePlotLimit();
+  virtual void ReleasePlotLimit();
 
   /// The value at a point in millimetres; 0 with fewer than 4 sites.
   double Interpolation(double x, double y) const { return wafobj.Interpolation(x, y); }

@@ -1,23 +1,16 @@
 #include "mirolen/controls/MapFrame.h"
 
 #include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "mirolen/controls/Hourglass.h"
+#include "mirolen/render/ColorScale.h"
 
 namespace mirolen {
 namespace {
 
 constexpr double row_height = 210;
-
-/// The hourglass as long as it lives, and the default pointer after it, whatever the host had set.
-class Hourglass {
- public:
-  explicit Hourglass(UserControl& control) : control_(control) { control_.MousePointer = 11; }
-  ~Hourglass() { control_.MousePointer = 0; }
-  Hourglass(const Hourglass&) = delete;
-  Hourglass& operator=(const Hourglass&) = delete;
-
- private:
-  UserControl& control_;
-};
 
 }  // namespace
 
@@ -34,7 +27,7 @@ void MapFrame::place_children() {
   Move(0, 0, 6900, 4800);
   PLOTA.Move(120, 240);
   frmove.Border = false;
-  frmove.Height = 4440;
+  frmove.Height = 4290;
   Frame1.Border = false;
   Frame1.Height = 2520;
   frleg.Move(105, 0, 1935, 2445);
@@ -44,12 +37,22 @@ void MapFrame::place_children() {
     ScaleValue(row).Move(345, (row - 1) * row_height, 0, row_height);
     ScaleValue(row).AutoSize = true;
   }
-  // The button stands above the orientation mark, so that both legend and button show at the smallest height.
-  Command1.Move(105, 2580, 1935, 420);
-  FNLabel.Move(105, 3090, 1935, 225);
+  // The button stands above the orientation mark, so that legend, button and the mark's name show at the
+  // smallest height.
+  Command1.Move(105, 2520, 1935, 390);
+  FNLabel.Move(105, 2940, 1935, 225);
   FNLabel.Centered = true;
-  FNPic.Move(555, 3315, 1020, 1020);
+  FNPic.Move(555, 3165, 1020, 1020);
   copypic.Visible = false;
+}
+
+void MapFrame::make_room_in_legend(double room) {
+  frleg.Height = frleg.Height + room;
+  Frame1.Height = Frame1.Height + room;
+  Command1.Top = Command1.Top + room;
+  FNLabel.Top = FNLabel.Top + room;
+  FNPic.Top = FNPic.Top + room;
+  frmove.Height = frmove.Height + room;
 }
 
 void MapFrame::clear() {
@@ -115,8 +118,18 @@ void MapFrame::lay_out() {
 bool MapFrame::lay_out_legend() {
   constexpr double least_width = 4500, least_height = 3180;
   raise_size(least_width, least_height);
-  if (ScaleWidth() < least_width || ScaleHeight() < least_height) return false;
+  if (ScaleWidth() < least_width || ScaleHeight() < least_height) {
+    give_up_size();
+    return false;
+  }
 
+  size_legend();
+  frmove.Left = ScaleWidth() - frmove.Width;
+  plot_side_ = to_int16(std::min(ScaleWidth() - frmove.Width, ScaleHeight()));
+  return true;
+}
+
+void MapFrame::size_legend() {
   double m = 1695;
   for (int i = 1; i <= 10; ++i) {
     const double right = ScaleValue(i).Left + ScaleValue(i).Width;
@@ -128,9 +141,6 @@ bool MapFrame::lay_out_legend() {
   frmove.Width = Frame1.Width;
   Command1.Width = frleg.Width;
   FNLabel.Width = frleg.Width;
-  frmove.Left = ScaleWidth() - frmove.Width;
-  plot_side_ = to_int16(std::min(ScaleWidth() - frmove.Width, ScaleHeight()));
-  return true;
 }
 
 bool MapFrame::lay_out_bare() {
@@ -153,7 +163,28 @@ void MapFrame::RedrawPlot() {
   Refresh();
   draw_plot();
   PlotValid = true;
-  RePlot.Picture = PLOTA.Image();
+  keep_snapshot();
+}
+
+void MapFrame::fill_legend() { wafobj.scale_colored(scalCol.as<ColorBox>(), ScaleValue.as<ValueLabel>()); }
+
+void MapFrame::show_orientation() {
+  double x0 = 34, y0 = 34;
+  wafobj.FlatNotchShow(&FNLabel, FNPic, x0, y0, 30, 0, 90);
+}
+
+double& MapFrame::color_field(int interval) { return band_color(wafobj, interval + 1); }
+
+Color MapFrame::IntervalColor(int interval) const {
+  if (interval < 0 || interval >= intervals()) return 0;
+  const double color = const_cast<MapFrame*>(this)->color_field(interval);
+  return std::isfinite(color) ? to_color(color) : 0;
+}
+
+void MapFrame::IntervalColor(int interval, Color v) {
+  if (interval < 0 || interval >= intervals()) return;
+  color_field(interval) = v;
+  look_changed(("IntervalColor" + std::to_string(interval)).c_str());
 }
 
 }  // namespace mirolen

@@ -21,6 +21,12 @@ class MapFrame : public ControlFrame {
   std::string PlotCaption() const { return Frplot.Caption; }
   void PlotCaption(const std::string& v);
 
+  /// The number of interval colours of this control: ten, or the three of a sigma plot.
+  virtual int intervals() const { return 10; }
+  /// The colour of interval 0 (top of the scale) and up; beyond intervals() it is black and cannot be set.
+  Color IntervalColor(int interval) const;
+  void IntervalColor(int interval, Color v);
+
   // The children. A host leaves them alone; tests look at them.
   Frame Frplot{this, " Wafer "};
   ImageBox RePlot{&Frplot};  // below PLOTA, and seen when that is hidden
@@ -46,10 +52,26 @@ class MapFrame : public ControlFrame {
   /// Renders: the one place that does. @throws RunTimeError, with the mouse pointer put back.
   void RedrawPlot();
   /// What comes before the drawing, while the host's events have been handled.
-  virtual void prepare_redraw() = 0;
+  virtual void prepare_redraw() {}
   virtual void draw_plot() = 0;
-  virtual void fill_legend() = 0;
-  virtual void show_orientation() = 0;
+  /// The ten-row legend, unless a control has another.
+  virtual void fill_legend();
+  /// The miniature in plan view, unless a control turns it.
+  virtual void show_orientation();
+  /// Where in `wafobj` a colour lies.
+  virtual double& color_field(int interval);
+  /// The widths of the legend column. It is as wide as its longest text, unless a control fixes it.
+  virtual void size_legend();
+  /// What happens to a control that cannot take its smallest size.
+  virtual void give_up_size() {}
+  /// Runs RedrawPlot; an error ends it without a word.
+  void redraw_quietly() {
+    quietly([&] { RedrawPlot(); });
+  }
+  /// Makes the legend's frame higher and moves what stands under it, while the control is made.
+  void make_room_in_legend(double twips);
+  /// Makes PLOTA and its snapshot, drawn already, a valid or a passing picture.
+  void keep_snapshot() { RePlot.Picture = PLOTA.Image(); }
 
  private:
   void place_children();

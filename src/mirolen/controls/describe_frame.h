@@ -4,11 +4,12 @@
 #include "mirolen/controls/ControlFrame.h"
 #include "mirolen/core/palette.h"
 
-// The parts of a control's description that several controls share. The keys of stored properties differ from
-// control to control and stand with each.
+// The parts of a control's description that several controls share. Each control's own file puts them
+// together.
 namespace mirolen::describe {
 
 using automation::ClassBuilder;
+using automation::ObjectReference;
 using automation::Type;
 
 template <class Control>
@@ -25,14 +26,14 @@ void data(ClassBuilder<Control>& tell) {
               [](Control& c, Array& x, Array& y, Array& Z) { return c.GetWaferData(x, y, Z); })
       .method("Interpolation", "the value at a point, in mm", {"x", "y"},
               [](Control& c, const double& x, const double& y) { return c.Interpolation(x, y); })
-      .read_only("mean", "mean of the values", [](const Control& c) { return c.mean(); })
-      .read_only("Maximum", "largest value", [](const Control& c) { return c.Maximum(); })
-      .read_only("Minimum", "smallest value", [](const Control& c) { return c.Minimum(); })
-      .read_only("range", "largest minus smallest value", [](const Control& c) { return c.range(); })
-      .read_only("HiLo", "|max - min| / |max + min| in percent", [](const Control& c) { return c.HiLo(); })
-      .read_only("StdDev", "sample deviation", [](const Control& c) { return c.StdDev(); })
+      .read_only("mean", "mean of the values", &Control::mean)
+      .read_only("Maximum", "largest value", &Control::Maximum)
+      .read_only("Minimum", "smallest value", &Control::Minimum)
+      .read_only("range", "largest minus smallest value", &Control::range)
+      .read_only("HiLo", "|max - min| / |max + min| in percent", &Control::HiLo)
+      .read_only("StdDev", "sample deviation", &Control::StdDev)
       .read_only("StdDevPercent", "deviation in percent of the mean, 0 unless that is positive",
-                 [](const Control& c) { return c.StdDevPercent(); });
+                 &Control::StdDevPercent);
 }
 
 template <class Control>
@@ -50,28 +51,17 @@ void plotting(ClassBuilder<Control>& tell) {
 template <class Control>
 void wafer_and_window(ClassBuilder<Control>& tell) {
   tell.enumeration({"WaferSt", {{"Flat", 2}, {"Notch", 1}}})
-      .property(
-          "WaferDiameter", "mm; setting it empties the store",
-          [](const Control& c) { return c.WaferDiameter(); },
-          [](Control& c, double v) { c.WaferDiameter(v); })
-      .property(
-          "TestDiameter", "mm; the circle in which sites count",
-          [](const Control& c) { return c.TestDiameter(); }, [](Control& c, double v) { c.TestDiameter(v); })
-      .property(
-          "WaferStyle", "orientation mark", [](const Control& c) { return c.WaferStyle(); },
-          [](Control& c, WaferSt v) { c.WaferStyle(v); })
+      .property("WaferDiameter", "mm; setting it empties the store", &Control::WaferDiameter,
+                &Control::WaferDiameter)
+      .property("TestDiameter", "mm; the circle in which sites count", &Control::TestDiameter,
+                &Control::TestDiameter)
+      .property("WaferStyle", "orientation mark", &Control::WaferStyle, &Control::WaferStyle)
       .from("WaferSt")
-      .property(
-          "HideLegend", "hides the legend", [](const Control& c) { return c.HideLegend(); },
-          [](Control& c, bool v) { c.HideLegend(v); })
-      .property(
-          "BackColor", "background", [](const Control& c) { return c.BackColor(); },
-          [](Control& c, Color v) { c.BackColor(v); })
-      .read_only("hdc", "device context of the control", [](const Control& c) { return c.hdc(); })
-      .read_only("hwnd", "window of the control", [](const Control& c) { return c.hwnd(); })
-      .property(
-          "MousePointer", "shape of the mouse pointer", [](const Control& c) { return c.MousePointer(); },
-          [](Control& c, std::int16_t v) { c.MousePointer(v); })
+      .property("HideLegend", "hides the legend", &Control::HideLegend, &Control::HideLegend)
+      .property("BackColor", "background", &Control::BackColor, &Control::BackColor)
+      .read_only("hdc", "device context of the control", &Control::hdc)
+      .read_only("hwnd", "window of the control", &Control::hwnd)
+      .property("MousePointer", "shape of the mouse pointer", &Control::MousePointer, &Control::MousePointer)
       .object(
           "MouseIcon", "picture of the mouse pointer", [](const Control& c) { return c.MouseIcon(); },
           [](Control& c, std::shared_ptr<const Image> v) { c.MouseIcon(std::move(v)); })
@@ -82,27 +72,47 @@ void wafer_and_window(ClassBuilder<Control>& tell) {
 
 template <class Control>
 void plot_caption(ClassBuilder<Control>& tell) {
-  tell.property(
-      "PlotCaption", "caption of the plot's frame", [](const Control& c) { return c.PlotCaption(); },
-      [](Control& c, const std::string& v) { c.PlotCaption(v); });
+  tell.property("PlotCaption", "caption of the plot's frame", &Control::PlotCaption, &Control::PlotCaption);
 }
 
 template <class Control>
-void ten_interval_colors(ClassBuilder<Control>& tell) {
-  for (int i = 0; i < 10; ++i)
+void interval_colors(ClassBuilder<Control>& tell, int count) {
+  for (int i = 0; i < count; ++i)
     tell.property(
         "IntervalColor" + std::to_string(i), "colour of an interval, 0 at the top of the scale",
         [i](const Control& c) { return c.IntervalColor(i); },
         [i](Control& c, Color v) { c.IntervalColor(i, v); });
 }
 
-/// The stored keys of the ten colours: a name that ends in the digit of its property.
 template <class Control>
-void stored_ten_colors(ClassBuilder<Control>& tell, const std::string& key) {
-  constexpr int defaults[10] = {4, 12, 14, 10, 6, 2, 3, 9, 1, 5};
-  for (int i = 0; i < 10; ++i)
-    tell.stored(key + std::to_string(i), Type::int32, static_cast<std::int32_t>(QBColor(defaults[i])),
-                "IntervalColor" + std::to_string(i));
+void cells(ClassBuilder<Control>& tell) {
+  tell.enumeration({"Sites", {{"ShowSite", -1}, {"HideSite", 0}}})
+      .property("Resolution", "edge of a plot cell, mm; at most a quarter of the test diameter",
+                &Control::Resolution, &Control::Resolution)
+      .property("ShowSites", "marks the sites", &Control::ShowSites, &Control::ShowSites)
+      .from("Sites");
+}
+
+template <class Control>
+void sigma_range(ClassBuilder<Control>& tell) {
+  tell.property("SigmaRange", "half of the range round the mean, in deviations", &Control::SigmaRange,
+                &Control::SigmaRange);
+}
+
+template <class Control>
+void view(ClassBuilder<Control>& tell) {
+  tell.field("EnableRotation", "read by nothing: dragging always turns the plot", &Control::EnableRotation)
+      .property("WaferRotation", "degrees, 0 to 359", &Control::WaferRotation, &Control::WaferRotation)
+      .property("GridRotation", "degrees, 0 to 91", &Control::GridRotation, &Control::GridRotation)
+      .property("GridInclination", "degrees, 0 to 91; 90 is seen from above", &Control::GridInclination,
+                &Control::GridInclination);
+}
+
+template <class Control>
+void surface(ClassBuilder<Control>& tell) {
+  tell.property("XResolution", "step of the grid, mm", &Control::XResolution, &Control::XResolution)
+      .property("YResolution", "step of the grid, mm", &Control::YResolution, &Control::YResolution)
+      .property("PlotScale", "height factor", &Control::PlotScale, &Control::PlotScale);
 }
 
 template <class Control>
@@ -111,6 +121,59 @@ void events(ClassBuilder<Control>& tell) {
   for (const char* name : {"MouseDown", "MouseMove", "MouseUp"})
     tell.event(
         {name, {{"Button", Type::int16}, {"Shift", Type::int16}, {"x", Type::real}, {"y", Type::real}}});
+}
+
+/// What every control has.
+template <class Control>
+ClassBuilder<Control> frame(const char* name) {
+  ClassBuilder<Control> tell(name);
+  data(tell);
+  plotting(tell);
+  wafer_and_window(tell);
+  events(tell);
+  return tell;
+}
+
+/// The first keys of every control, under the prefix of its names.
+template <class Control>
+void stored_wafer(ClassBuilder<Control>& tell, const std::string& prefix, Type style = Type::int32) {
+  tell.stored(prefix + "BackColor", Type::int32, std::nullopt, "BackColor")
+      .stored(prefix + "FLAT", style, 1, "WaferStyle")
+      .stored(prefix + "TESTDM", Type::int16, 194, "TestDiameter")
+      .stored(prefix + "WAFERDM", Type::int16, 200, "WaferDiameter");
+}
+
+template <class Control>
+void stored_colors(ClassBuilder<Control>& tell, const std::string& key, std::initializer_list<int> defaults) {
+  int i = 0;
+  for (const int color : defaults) {
+    tell.stored(key + std::to_string(i), Type::int32, static_cast<std::int32_t>(QBColor(color)),
+                "IntervalColor" + std::to_string(i));
+    ++i;
+  }
+}
+
+template <class Control>
+void stored_ten_colors(ClassBuilder<Control>& tell, const std::string& key) {
+  stored_colors(tell, key, {4, 12, 14, 10, 6, 2, 3, 9, 1, 5});
+}
+
+/// The angles of the plots in perspective, whose names end in that of the control.
+template <class Control>
+void stored_view(ClassBuilder<Control>& tell, const std::string& control) {
+  tell.stored("StdAlp" + control, Type::int16, 40, "GridRotation")
+      .stored("StdPhi" + control, Type::int16, 40, "WaferRotation")
+      .stored("StdThet" + control, Type::int16, 35, "GridInclination");
+}
+
+/// The last keys of every control; one without a caption has no such key.
+template <class Control>
+void stored_window(ClassBuilder<Control>& tell, const std::string& prefix,
+                   std::optional<std::string> caption) {
+  tell.stored(prefix + "Legend", Type::boolean, false, "HideLegend");
+  if (caption) tell.stored(prefix + "Caption", Type::text, *caption, "PlotCaption");
+  tell.stored(prefix + "MousePointer", Type::int16, 0, "MousePointer")
+      .stored(prefix + "MouseIcon", Type::object, ObjectReference{nullptr, typeid(Image)}, "MouseIcon");
 }
 
 }  // namespace mirolen::describe

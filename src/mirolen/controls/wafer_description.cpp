@@ -91,43 +91,115 @@ void describe_store(ClassBuilder<wafer>& tell) {
               [](const wafer& w, double Xa, double Ya) { return w.Interpolation_Einfach(Xa, Ya); });
 }
 
-// The legends take collections of widgets, which have no value at the interface: they are called in C++
-// alone.
-void describe_drawing(ClassBuilder<wafer>& tell) {
-  using Canvas = std::shared_ptr<PlotCanvas>;
-  using Label = std::shared_ptr<CaptionLabel>;
-  constexpr auto present = [](const auto& object) -> auto& {
-    if (!object) throw InvalidArgument("a drawing member needs its objects");
-    return *object;
-  };
+using Canvas = std::shared_ptr<PlotCanvas>;
+using Label = std::shared_ptr<CaptionLabel>;
+
+/// @throws InvalidArgument for an object that was left out.
+template <class T>
+T& present(const std::shared_ptr<T>& object) {
+  if (!object) throw InvalidArgument("a drawing member needs its objects");
+  return *object;
+}
+
+// Legends and axis labels take collections of widgets, which have no value at the interface: they, and the
+// marks of a line scan, are called in C++ alone.
+void describe_outline(ClassBuilder<wafer>& tell) {
   tell.method("FormatLbl", "a value as the text of a caption", {"dummy"},
               [](const wafer& w, double dummy) { return w.FormatLbl(dummy); })
       .method(
           "FlatNotchShow", "draws the outline with its flat or notch",
           {"FNLabel", "FNPic", "x0", "y0", "halb_a", "phi", "thet"},
-          [=](const wafer& w, Label FNLabel, Canvas FNPic, double& x0, double& y0, double halb_a, double phi,
-              double thet) { w.FlatNotchShow(FNLabel.get(), present(FNPic), x0, y0, halb_a, phi, thet); })
+          [](const wafer& w, Label FNLabel, Canvas FNPic, double& x0, double& y0, double halb_a, double phi,
+             double thet) { w.FlatNotchShow(FNLabel.get(), present(FNPic), x0, y0, halb_a, phi, thet); })
       .method(
           "FlatNotchShow1", "the same as an open arc",
           {"FNLabel", "FNPic", "x0", "y0", "halb_a", "phi", "thet"},
-          [=](const wafer& w, Label FNLabel, Canvas FNPic, double& x0, double& y0, double halb_a, double phi,
-              double thet) { w.FlatNotchShow1(FNLabel.get(), present(FNPic), x0, y0, halb_a, phi, thet); })
+          [](const wafer& w, Label FNLabel, Canvas FNPic, double& x0, double& y0, double halb_a, double phi,
+             double thet) { w.FlatNotchShow1(FNLabel.get(), present(FNPic), x0, y0, halb_a, phi, thet); })
       .method("draw_indicator", "lays a scan line across a small wafer picture",
               {"Iline", "plus", "Plotopt", "phi", "x1", "y1", "x2", "y2", "x3", "y3", "Plot"},
-              [=](wafer& w, std::shared_ptr<IndicatorLine> Iline, std::shared_ptr<IndicatorMark> plus,
-                  std::int16_t Plotopt, std::int16_t phi, double x1, double y1, double x2, double y2,
-                  double x3, double y3, Canvas Plot) {
+              [](wafer& w, std::shared_ptr<IndicatorLine> Iline, std::shared_ptr<IndicatorMark> plus,
+                 std::int16_t Plotopt, std::int16_t phi, double x1, double y1, double x2, double y2,
+                 double x3, double y3, Canvas Plot) {
                 w.draw_indicator(present(Iline), present(plus), Plotopt, phi, x1, y1, x2, y2, x3, y3,
                                  present(Plot));
-              })
-      .method("D2Plot", "paints the colour map (PlotStyle 5) or the sigma map",
+              });
+}
+
+void describe_maps(ClassBuilder<wafer>& tell) {
+  tell.method("D2Plot", "paints the colour map (PlotStyle 5) or the sigma map",
               {"Plot", "res", "PlotStyle", "SigmaRange", "marksites", "left", "top", "width", "height",
                "ShowDispl"},
-              [=](wafer& w, Canvas Plot, double res, std::int16_t PlotStyle, double SigmaRange,
-                  std::int16_t marksites, double left, double top, double width, double height,
-                  std::int16_t ShowDispl) {
+              [](wafer& w, Canvas Plot, double res, std::int16_t PlotStyle, double SigmaRange,
+                 std::int16_t marksites, double left, double top, double width, double height,
+                 std::int16_t ShowDispl) {
                 w.D2Plot(present(Plot), res, PlotStyle, SigmaRange, marksites, left, top, width, height,
                          ShowDispl);
+              })
+      .method("D2Number", "writes the values at their sites",
+              {"Plot", "left", "top", "width", "height", "ShowDispl"},
+              [](wafer& w, Canvas Plot, double left, double top, double width, double height,
+                 std::int16_t ShowDispl) { w.D2Number(present(Plot), left, top, width, height, ShowDispl); })
+      .method(
+          "GridPosPlot", "writes the numbers of the sites",
+          {"Plot", "left", "top", "width", "height", "ShowDispl"},
+          [](wafer& w, Canvas Plot, double left, double top, double width, double height,
+             std::int16_t ShowDispl) { w.GridPosPlot(present(Plot), left, top, width, height, ShowDispl); })
+      .method("D2Contour", "draws curves of equal value",
+              {"Plot", "st", "distance", "marked_sites", "reso", "colored", "left", "top", "width", "height",
+               "ShowDispl"},
+              [](wafer& w, Canvas Plot, std::int16_t st, double distance, std::int16_t marked_sites,
+                 std::int16_t reso, std::int16_t colored, double& left, double& top, double& width,
+                 double& height, std::int16_t& ShowDispl) {
+                w.D2Contour(present(Plot), st, distance, marked_sites, reso, colored, left, top, width,
+                            height, ShowDispl);
+              });
+}
+
+void describe_perspectives(ClassBuilder<wafer>& tell) {
+  tell.method("D3Plot", "draws the surface",
+              {"Plot", "resx", "resy", "fwscal", "alp2", "phi2", "thet2", "PlotStyle", "SigmaRange", "fprint",
+               "left", "top", "width", "height", "ShowDispl"},
+              [](wafer& w, Canvas Plot, double resx, double resy, double fwscal, double alp2, double phi2,
+                 double thet2, std::int16_t PlotStyle, double SigmaRange, bool& fprint, double& left,
+                 double& top, double& width, double& height, std::int16_t& ShowDispl) {
+                w.D3Plot(present(Plot), resx, resy, fwscal, alp2, phi2, thet2, PlotStyle, SigmaRange, fprint,
+                         left, top, width, height, ShowDispl);
+              })
+      .method("D2BeamPlot", "draws the sites as bars",
+              {"Plot", "bx", "by", "fwscal", "alp2", "phi2", "thet2", "fprint", "left", "top", "width",
+               "height", "ShowDispl"},
+              [](wafer& w, Canvas Plot, double bx, double by, double fwscal, double alp2, double phi2,
+                 double thet2, bool& fprint, double& left, double& top, double& width, double& height,
+                 std::int16_t& ShowDispl) {
+                w.D2BeamPlot(present(Plot), bx, by, fwscal, alp2, phi2, thet2, fprint, left, top, width,
+                             height, ShowDispl);
+              });
+}
+
+void describe_charts(ClassBuilder<wafer>& tell) {
+  tell.method("Statistic", "draws the histogram",
+              {"PlotType", "Plot", "histPic", "x0", "y0", "breite", "hoehe", "stat_resol", "laenge", "left",
+               "top", "ShowDisp"},
+              [](wafer& w, const std::int16_t& PlotType, Canvas Plot, Canvas histPic, double& x0, double& y0,
+                 double& breite, double& hoehe, double stat_resol, std::int16_t& laenge, double& left,
+                 double& top, std::int16_t& ShowDisp) {
+                w.Statistic(PlotType, present(Plot), present(histPic), x0, y0, breite, hoehe, stat_resol,
+                            laenge, left, top, ShowDisp);
+              })
+      .method("D1Plot", "draws the cross-section along a line",
+              {"Plot", "resol", "phi", "D1Angle", "x1", "y1", "x2", "y2", "DrawCol", "left", "top", "width",
+               "height", "ShowDisp"},
+              [](wafer& w, Canvas Plot, std::int16_t& resol, std::int16_t& phi, bool& D1Angle, double& x1,
+                 double& y1, double& x2, double& y2, Color& DrawCol, double& left, double& top, double& width,
+                 double& height, std::int16_t& ShowDisp) {
+                w.D1Plot(present(Plot), resol, phi, D1Angle, x1, y1, x2, y2, DrawCol, left, top, width,
+                         height, ShowDisp);
+              })
+      .method("D1Plot_AdjustLines", "draws the grid of the cross-section",
+              {"Plot", "left", "top", "width", "height"},
+              [](const wafer& w, Canvas Plot, double& left, double& top, double& width, double& height) {
+                w.D1Plot_AdjustLines(present(Plot), left, top, width, height);
               });
 }
 
@@ -137,7 +209,10 @@ automation::ClassInfo describe_wafer() {
   describe_statistics(tell);
   describe_looks(tell);
   describe_texts(tell);
-  describe_drawing(tell);
+  describe_outline(tell);
+  describe_maps(tell);
+  describe_perspectives(tell);
+  describe_charts(tell);
   return tell.build();
 }
 

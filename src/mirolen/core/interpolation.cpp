@@ -9,7 +9,6 @@ namespace {
 
 constexpr double on_a_site = 0.0001;
 constexpr double fewest_sites = 4;
-constexpr double sites_worth_an_index = 10;
 constexpr double largest_cell_number = 32767;
 
 /// The four nearest sites so far, nearest first. A distance that has found its slot is replaced by the marker

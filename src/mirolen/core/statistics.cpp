@@ -3,11 +3,6 @@
 #include "mirolen/core/wafer.h"
 
 namespace mirolen {
-namespace {
-
-constexpr double sites_worth_an_index = 10;
-
-}  // namespace
 
 void wafer::MaxMin() {
   maxi = value_of(1);

@@ -20,11 +20,14 @@ class IndicatorLine;
 class IndicatorMark;
 class Painter;
 class PlotCanvas;
+class SiteMarks;
 class ValueLabel;
 
 /// The ten colour boxes and value labels of a legend, first row first.
 using LegendBoxes = std::array<ColorBox*, 10>;
 using LegendLabels = std::array<ValueLabel*, 10>;
+/// The labels of an axis.
+using AxisLabels = std::array<CaptionLabel*, 5>;
 
 /// A measured wafer: its sites, what is computed from them, its colours and texts, and the renderers that
 /// draw it.
@@ -157,6 +160,66 @@ class wafer {
   /// node.
   void D2Plot(PlotCanvas& Plot, double res, std::int16_t PlotStyle, double SigmaRange, std::int16_t marksites,
               double left, double top, double width, double height, std::int16_t ShowDispl);
+  /// Writes each site's value at its place, in the colour of its band, on a disc of the test diameter.
+  void D2Number(PlotCanvas& Plot, double left, double top, double width, double height,
+                std::int16_t ShowDispl);
+  /// Writes each site's running number at its place.
+  void GridPosPlot(PlotCanvas& Plot, double left, double top, double width, double height,
+                   std::int16_t ShowDispl);
+  /// Draws iso-value curves on a disc of the radius st (canvas units), spaced by distance percent.
+  /// marked_sites 1 marks the sites, 2 the nodes of the mesh; reso 0, 1 and 2: coarse, fine, by the number of
+  /// sites; colored 0 in black, 1 in the three sigma colours, 2 in the band colours. Where the spacing is too
+  /// small the picture is crossed out and a message shown. @throws RunTimeError of the canvas, DivisionByZero
+  /// for a wafer of diameter 0.
+  void D2Contour(PlotCanvas& Plot, std::int16_t st, double distance, std::int16_t marked_sites,
+                 std::int16_t reso, std::int16_t colored, double left, double top, double width,
+                 double height, std::int16_t ShowDispl);
+  /// Draws the interpolated surface in perspective: cells of resx by resy millimetres, its height fwscal
+  /// times a millimetre, the grid turned by alp2, the wafer by phi2, seen from thet2 (90: from above), in
+  /// degrees. PlotStyle 1 bands with edges, 2 wire frame, 3 white cells, 4 sigma colours of SigmaRange
+  /// deviations. Nothing is thrown. Cost: one interpolation a grid node, one polygon a cell.
+  void D3Plot(PlotCanvas& Plot, double resx, double resy, double fwscal, double alp2, double phi2,
+              double thet2, std::int16_t PlotStyle, double SigmaRange, bool fprint, double left, double top,
+              double width, double height, std::int16_t ShowDispl);
+  /// Draws the sites as bars of bx by by millimetres on the inclined disc, their height fwscal a unit of
+  /// value. Angles as in `D3Plot`. Nothing is thrown.
+  void D2BeamPlot(PlotCanvas& Plot, double bx, double by, double fwscal, double alp2, double phi2,
+                  double thet2, bool fprint, double left, double top, double width, double height,
+                  std::int16_t ShowDispl);
+  /// Draws the histogram of the values in stat_resol classes, with its Gauss curve: bars, marks and curve on
+  /// Plot, ticks and texts on histPic. PlotType: base line at the bottom 1, top 2, left 3, right 4. On a page
+  /// (ShowDisp 1) lengths are twips, and come back in pixels. A failing step goes on with all lengths divided
+  /// by 4.8.
+  void Statistic(std::int16_t PlotType, PlotCanvas& Plot, PlotCanvas& histPic, double& x0, double& y0,
+                 double& breite, double& hoehe, double stat_resol, std::int16_t& laenge, double& left,
+                 double& top, std::int16_t ShowDisp);
+  /// The same turned by a quarter, its base line at the right or at the left. breite and hoehe come back
+  /// exchanged.
+  void Statistic_Quer(bool RightD, PlotCanvas& Plot, PlotCanvas& histPic, double& x0, double& y0,
+                      double& breite, double& hoehe, float stat_resol, std::int16_t& laenge, double& left,
+                      double& top, std::int16_t ShowDisp);
+
+  // ---- Line scan: the cross-section along a chord of the test circle ----
+  /// Draws the curve in resol pieces: by D1Angle along the line through (x1, y1) at phi degrees, otherwise
+  /// through (x1, y1) and (x2, y2). @throws RunTimeError of the canvas, InvalidArgument for a line that
+  /// misses the circle.
+  void D1Plot(PlotCanvas& Plot, std::int16_t resol, std::int16_t phi, bool D1Angle, double x1, double y1,
+              double x2, double y2, Color DrawCol, double left, double top, double width, double height,
+              std::int16_t ShowDisp);
+  /// Draws the chart's grid, four cells each way; on a picture box it stays through later `Cls`.
+  void D1Plot_AdjustLines(PlotCanvas& Plot, double left, double top, double width, double height) const;
+  /// Marks the sites on the line: on the screen with the marks of picgrid, on a page with discs. Errors as
+  /// `D1Plot`.
+  void D1Plot_MarkSites(PlotCanvas& Plot, SiteMarks* picgrid, std::int16_t phi, bool D1Angle, double x1,
+                        double y1, double x2, double y2, Color DrawCol, double left, double top, double width,
+                        double height, std::int16_t ShowDisp) const;
+  /// Writes the five labels of each axis. Plotopt 1: the line through (x1, y1) at phi, otherwise through (x2,
+  /// y2) and (x3, y3). Errors as `D1Plot`.
+  void D1Plot_Show_lblXY(const AxisLabels& lblX, const AxisLabels& lblY, std::int16_t Plotopt,
+                         std::int16_t phi, double x1, double y1, double x2, double y2, double x3,
+                         double y3) const;
+  /// A value as the labels of the line scan's y axis show it.
+  std::string scan_label(double value) const;
 
  private:
   friend class Painter;
@@ -181,8 +244,11 @@ class wafer {
   Chord chord_from_line(double x1, double y1, double x2, double y2) const;
   Chord chord_from_angle(double x1, double y1, std::int16_t phi) const;
   static Chord sloped_chord(double R2, double m, double b, bool rightward);
+  Chord chord(bool angle_mode, std::int16_t phi, double x1, double y1, double x2, double y2) const;
+  double scan_height(double z, double box_bottom, double box_height) const;
 
   static inline const double Pi = 4 * std::atan(1.0);
+  static constexpr double sites_worth_an_index = 10;
   bool FirstUse = true;
   double Nop = 0;
   double NextSite = 1;

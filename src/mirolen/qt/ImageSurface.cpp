@@ -209,6 +209,16 @@ std::shared_ptr<const Image> ImageSurface::snapshot() const {
   return std::make_shared<Picture>(image(), size_);
 }
 
+void ImageSurface::restore(const Image& image) {
+  const auto* const picture = dynamic_cast<const Picture*>(&image);
+  if (!picture) return;
+  // A snapshot may come from a screen with another ratio.
+  const QImage& kept = picture->image();
+  QPainter painter(&image_);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(QRectF(QPointF(), kept.deviceIndependentSize() * ratio_), kept, QRectF(kept.rect()));
+}
+
 void ImageSurface::refresh() {
   if (!show_) return;
   const bool at_once = !since_shown_.isValid() || since_shown_.hasExpired(frame_of_a_screen);

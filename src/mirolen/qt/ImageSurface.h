@@ -47,6 +47,7 @@ class ImageSurface : public Surface {
   void flood_fill(const Brush& brush, PixelPoint seed, Color boundary) override;
   /// A Picture.
   std::shared_ptr<const Image> snapshot() const override;
+  void restore(const Image& image) override;
   /// Shows at once what a screen can show, 60 times a second; in between it leaves that to the event loop.
   void refresh() override;
 

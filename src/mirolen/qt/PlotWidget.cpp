@@ -4,6 +4,7 @@
 #include <QMetaProperty>
 #include <QPainter>
 #include <algorithm>
+#include <limits>
 
 #include "mirolen/qt/ChildView.h"
 #include "mirolen/qt/Picture.h"
@@ -108,8 +109,16 @@ QSize PlotWidget::minimumSizeHint() const {
   return HideLegend() ? QSize(pixels_of(bare), pixels_of(bare)) : QSize(pixels_of(width), pixels_of(height));
 }
 
+std::int16_t PlotWidget::short_of(int v) {
+  using range = std::numeric_limits<std::int16_t>;
+  return static_cast<std::int16_t>(std::clamp<int>(v, range::min(), range::max()));
+}
+
 void PlotWidget::property_changed(std::string_view name) {
-  const int index = metaObject()->indexOfProperty(std::string(name).c_str());
+  const QByteArray own(name.data(), static_cast<qsizetype>(name.size()));
+  int index = metaObject()->indexOfProperty(own);
+  // "angle" alone is told with a capital.
+  if (index < 0) index = metaObject()->indexOfProperty(own.toLower());
   const QMetaProperty property = metaObject()->property(index);
   if (property.hasNotifySignal()) property.notifySignal().invoke(this, Qt::DirectConnection);
   if (name == "HideLegend") updateGeometry();
@@ -141,6 +150,8 @@ void PlotWidget::take_palette() {
   if (!control_) return;
   toolkit_.erase_pictures(*control_);
   redraw();
+  // A system colour that it may be looks different now; the miniature of a line scan is drawn again for it.
+  control_->BackColor(control_->BackColor());
 }
 
 bool PlotWidget::event(QEvent* event) {

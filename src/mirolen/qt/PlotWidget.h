@@ -120,6 +120,17 @@ class PlotWidget : public QWidget {
   /// The control, in the size that this face has now.
   ControlFrame& frame();
   const ControlFrame& frame() const { return *control_; }
+  /// The same as what it is to a derived face, which has adopted a control of this class.
+  template <class Control>
+  Control& frame_as() {
+    return static_cast<Control&>(frame());
+  }
+  template <class Control>
+  const Control& frame_as() const {
+    return static_cast<const Control&>(frame());
+  }
+  /// A whole number as the controls take it: one beyond their 16 bits becomes the nearest.
+  static std::int16_t short_of(int v);
   /// Draws anew for a screen with so many device pixels a logical pixel.
   void change_ratio(double ratio);
 

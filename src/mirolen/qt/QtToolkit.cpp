@@ -51,10 +51,13 @@ std::unique_ptr<Surface> QtToolkit::make_surface(PictureBox& box) {
 SurfaceSize QtToolkit::measure(const FontSpec& font, std::string_view text) const {
   // Fonts have whole pixels on every screen, so they differ a little; the larger one cuts no text.
   SurfaceSize size;
+  const QStringList lines = shown_text(font, text).split('\n');
   for (const double ratio : {1.0, ratio_}) {
     const QFontMetricsF metrics(font_of(font, face_, ratio), &face_);
-    size.width = std::max(size.width, std::ceil(metrics.horizontalAdvance(shown_text(font, text)) / ratio));
-    size.height = std::max(size.height, std::ceil(metrics.height() / ratio));
+    for (const QString& line : lines)
+      size.width = std::max(size.width, std::ceil(metrics.horizontalAdvance(line) / ratio));
+    size.height =
+        std::max(size.height, std::ceil(metrics.height() * static_cast<double>(lines.size()) / ratio));
   }
   return size;
 }

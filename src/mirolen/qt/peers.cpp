@@ -2,6 +2,7 @@
 
 #include <QTextDocument>
 
+#include "mirolen/qt/input_views.h"
 #include "mirolen/qt/translate.h"
 #include "mirolen/qt/views.h"
 
@@ -17,10 +18,7 @@ QString plain_tip(const std::string& utf8) {
 /// Both edges are rounded, so that neighbours meet. What shows an image keeps the size in pixels of that
 /// instead.
 QRect place_of(const Widget& widget) {
-  if (widget.kind() == WidgetKind::line) {
-    const QWidget* const parent = view_of(*widget.container());
-    return parent ? parent->rect() : QRect();
-  }
+  if (const auto* line = dynamic_cast<const LineShape*>(&widget)) return LineView::place_of(*line);
   const QPoint from(pixels_of(widget.Left), pixels_of(widget.Top));
   if (widget.kind() == WidgetKind::picture_box || widget.kind() == WidgetKind::image_box)
     return QRect(from, QSize(pixels_of(widget.Width), pixels_of(widget.Height)));
@@ -40,8 +38,7 @@ class ChildPeer : public ViewPeer {
     view_->setGeometry(place_of(widget_));
     view_->setVisible(widget_.Visible);
     view_->setToolTip(plain_tip(widget_.ToolTipText));
-    if (const auto* button = dynamic_cast<const Button*>(&widget_))
-      static_cast<ButtonView&>(*view_).setText(text_of(button->Caption.get()));
+    if (auto* state = dynamic_cast<StateView*>(view_.data())) state->show_state();
     view_->update();
   }
 
@@ -58,6 +55,10 @@ QWidget* make_view(QWidget& parent, Widget& widget) {
       return new LabelView(parent, dynamic_cast<Label&>(widget));
     case WidgetKind::button:
       return new ButtonView(parent, dynamic_cast<Button&>(widget));
+    case WidgetKind::text_field:
+      return new TextFieldView(parent, dynamic_cast<TextField&>(widget));
+    case WidgetKind::up_down:
+      return new UpDownView(parent, dynamic_cast<UpDown&>(widget));
     case WidgetKind::shape:
       return new ShapeView(parent, dynamic_cast<Shape&>(widget));
     case WidgetKind::line:

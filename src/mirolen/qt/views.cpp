@@ -29,6 +29,13 @@ void fill_edges(QPainter& painter, const QRect& box, const QColor& color) {
   painter.fillRect(QRect(box.right(), box.top(), 1, box.height()), color);
 }
 
+/// A line through the middle of its pixels.
+QLineF in_pixels(const LineShape& line) {
+  const auto* const picture = dynamic_cast<const PictureBox*>(line.container());
+  const double unit = picture && picture->ScaleMode() == pixels ? 1 : 1 / twips_per_pixel;
+  return QLineF(line.X1 * unit, line.Y1 * unit, line.X2 * unit, line.Y2 * unit).translated(0.5, 0.5);
+}
+
 }  // namespace
 
 void FrameView::paintEvent(QPaintEvent*) {
@@ -65,41 +72,60 @@ void LabelView::paintEvent(QPaintEvent*) {
   painter.setFont(font_of(label_.Font, *this));
   painter.setPen(readable_on(background, palette().color(QPalette::WindowText)));
   const auto align = (label_.Centered ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter;
-  painter.drawText(rect(), static_cast<int>(align) | Qt::TextSingleLine | Qt::TextDontClip,
+  painter.drawText(rect(), static_cast<int>(align) | Qt::TextDontClip,
                    shown_text(label_.Font, label_.Caption.get()));
 }
 
-ButtonView::ButtonView(QWidget& parent, Button& button) : QPushButton(&parent) {
+ButtonView::ButtonView(QWidget& parent, Button& button) : QPushButton(&parent), button_(button) {
   setFont(font_of({}, *this));
   QObject::connect(this, &QPushButton::clicked, this, [&button] {
     if (button.OnClick) button.OnClick();
   });
 }
 
-ShapeView::ShapeView(QWidget& parent, Shape& shape) : ChildView(parent, shape), shape_(shape) {
-  setAttribute(Qt::WA_TransparentForMouseEvents);
+void ButtonView::show_state() { setText(text_of(button_.Caption.get())); }
+
+void ShapeView::show_state() {
+  setAttribute(Qt::WA_TransparentForMouseEvents, shape_.Look == Shape::Form::rectangle);
 }
 
 void ShapeView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  if (shape_.Look == Shape::Form::cross) return paint_cross(painter);
   painter.fillRect(rect(), Qt::black);
   painter.fillRect(rect().adjusted(1, 1, -1, -1), own_background(shape_));
+}
+
+/// A black plus with a white edge, as the plots mark sites: of one size, in the middle of the widget.
+void ShapeView::paint_cross(QPainter& painter) const {
+  constexpr int length = 13, edge = 2;
+  const QPoint middle(width() / 2, height() / 2);
+  const auto bars = [&](int reach, int thickness, const QColor& color) {
+    QRect upright(0, 0, thickness, reach), level(0, 0, reach, thickness);
+    for (QRect* bar : {&upright, &level}) {
+      bar->moveCenter(middle);
+      painter.fillRect(*bar, color);
+    }
+  };
+  bars(length, 1 + 2 * edge, Qt::white);
+  bars(length - 2 * edge, 1, Qt::black);
 }
 
 LineView::LineView(QWidget& parent, LineShape& line) : ChildView(parent, line), line_(line) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
+QRect LineView::place_of(const LineShape& line) {
+  const QLineF pixels = in_pixels(line);
+  return QRectF(pixels.p1(), pixels.p2()).normalized().toAlignedRect().adjusted(-1, -1, 1, 1);
+}
+
 void LineView::paintEvent(QPaintEvent*) {
-  const auto* picture = dynamic_cast<const PictureBox*>(line_.container());
-  const bool in_pixels = picture && picture->ScaleMode() == pixels;
-  const double unit = in_pixels ? 1 : 1 / twips_per_pixel;
-  const QPointF half(0.5, 0.5);
   QPainter painter(this);
+  painter.translate(-pos());
   painter.setRenderHint(QPainter::Antialiasing, line_.X1 != line_.X2 && line_.Y1 != line_.Y2);
   painter.setPen(QPen(Qt::black, 1));
-  painter.drawLine(QPointF(line_.X1 * unit, line_.Y1 * unit) + half,
-                   QPointF(line_.X2 * unit, line_.Y2 * unit) + half);
+  painter.drawLine(in_pixels(line_));
 }
 
 PictureView::PictureView(QWidget& parent, PictureBox& box) : ChildView(parent, box), box_(box) {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QLineF>
 #include <QPushButton>
 
 #include "mirolen/qt/ChildView.h"
+#include "mirolen/qt/StateView.h"
 #include "mirolen/widgets/PictureBox.h"
 #include "mirolen/widgets/widgets.h"
 
@@ -22,7 +24,8 @@ class FrameView : public ChildView {
   Frame& frame_;
 };
 
-/// A line of text. Unless it has a background of its own, that of its container shines through.
+/// Text, in as many lines as it has. Unless it has a background of its own, that of its container shines
+/// through.
 class LabelView : public ChildView {
  public:
   LabelView(QWidget& parent, Label& label) : ChildView(parent, label), label_(label) {}
@@ -35,27 +38,36 @@ class LabelView : public ChildView {
 };
 
 /// A push button; it takes the keyboard's Tab and Space as every button does.
-class ButtonView : public QPushButton {
+class ButtonView : public QPushButton, public StateView {
  public:
   ButtonView(QWidget& parent, Button& button);
+  void show_state() override;
+
+ private:
+  Button& button_;
 };
 
-/// A filled box. The mouse goes through it to what holds it.
-class ShapeView : public ChildView {
+/// A filled box, through which the mouse goes to what holds it, or a cross, which has a tool tip to show.
+class ShapeView : public ChildView, public StateView {
  public:
-  ShapeView(QWidget& parent, Shape& shape);
+  ShapeView(QWidget& parent, Shape& shape) : ChildView(parent, shape), shape_(shape) {}
+  void show_state() override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void paint_cross(QPainter& painter) const;
+
   Shape& shape_;
 };
 
-/// A line over the whole of its container. The mouse goes through it.
+/// A line, in the pixels of what holds it.
 class LineView : public ChildView {
  public:
   LineView(QWidget& parent, LineShape& line);
+  /// Where a line lies in its container, with room for its width.
+  static QRect place_of(const LineShape& line);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -11,6 +11,13 @@ ScaleEnds scale_ends(const wafer& wafer) {
   return {checked(wafer.maximal + margin), checked(wafer.minimal - margin), true};
 }
 
+int band_of(double height, double top, double step) {
+  int band = height >= top - step ? 1 : 10;
+  for (int k = 2; k <= 9; ++k)
+    if (top - k * step <= height && height < top - (k - 1) * step) band = k;
+  return height < top - 9 * step ? 10 : band;
+}
+
 double& band_color(wafer& wafer, int band) {
   const std::array colors{&wafer.col1, &wafer.col2, &wafer.col3, &wafer.col4, &wafer.col5,
                           &wafer.col6, &wafer.col7, &wafer.col8, &wafer.col9, &wafer.col10};

@@ -21,4 +21,7 @@ inline double band_color(const wafer& wafer, int band) {
   return band_color(const_cast<mirolen::wafer&>(wafer), band);
 }
 
+/// The band, 1 to 10, of a height under the top of a scale of ten steps; its lower end belongs to a band.
+int band_of(double height, double top, double step);
+
 }  // namespace mirolen

@@ -30,6 +30,17 @@ class ColorBox {
   virtual void set_visible(bool visible) = 0;
 };
 
+/// The marks of the sites on a line scan: widgets that are made as they are needed, and numbered from 0.
+class SiteMarks {
+ public:
+  virtual ~SiteMarks() = default;
+  virtual int count() const = 0;
+  virtual void add() = 0;
+  virtual void hide_all() = 0;
+  /// Shows a mark with its top left corner at a place of the chart.
+  virtual void show(int mark, double left, double top, const std::string& tool_tip) = 0;
+};
+
 /// The scan line of the small wafer picture.
 class IndicatorLine {
  public:

@@ -209,12 +209,7 @@ double MapPainter::cell_color(double zc) const {
 
 double MapPainter::band_color_of(double zc) const {
   if (high_ == low_) return wafer_.col6;
-  double color = unpainted;
-  if (zc >= S_ - band_) color = wafer_.col1;
-  for (int k = 1; k <= 8; ++k)
-    if (S_ - (k + 1) * band_ <= zc && zc < S_ - k * band_) color = band_color(wafer_, k + 1);
-  if (zc < S_ - 9 * band_) color = wafer_.col10;
-  return color;
+  return band_color(wafer_, band_of(zc, S_, band_));
 }
 
 double MapPainter::sigma_color_of(double zc) const {

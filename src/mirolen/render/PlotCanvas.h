@@ -86,6 +86,8 @@ class PlotCanvas {
 
   /// Erases the canvas to `BackColor` and puts the text place to the origin.
   virtual void Cls() = 0;
+  /// Makes what is drawn the ground that `Cls` erases to; nothing on a page.
+  virtual void keep_as_background() = 0;
   /// Shows what has been drawn so far; nothing where there is no screen.
   virtual void Refresh() = 0;
   /// A line or a rectangle by its flags, both ends inclusive; without a colour in `ForeColor`.

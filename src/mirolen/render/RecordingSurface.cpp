@@ -229,6 +229,13 @@ std::shared_ptr<const Image> RecordingSurface::snapshot() const {
   return std::make_shared<RecordedImage>(size_, recording_);
 }
 
+void RecordingSurface::restore(const Image& image) {
+  const auto* recorded_image = dynamic_cast<const RecordedImage*>(&image);
+  if (!recorded_image) return;
+  for (const recorded::Call& call : recorded_image->recording())
+    if (!std::holds_alternative<recorded::Clear>(call)) recording_.push_back(call);
+}
+
 void RecordingSurface::refresh() { recording_.emplace_back(recorded::Refresh{}); }
 
 }  // namespace mirolen

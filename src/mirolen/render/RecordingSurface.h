@@ -105,6 +105,8 @@ class RecordingSurface : public Surface {
   void flood_fill(const Brush& brush, PixelPoint seed, Color boundary) override;
   /// A RecordedImage.
   std::shared_ptr<const Image> snapshot() const override;
+  /// Makes the calls of a RecordedImage again, but for its clears.
+  void restore(const Image& image) override;
   void refresh() override;
 
  private:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -160,6 +161,14 @@ std::int16_t text_length(double value) {
 
 std::string format_number(double value, std::string_view format) {
   return localized(in_pattern(value, Pattern(format == "Scientific" ? "0.00E+00" : format)));
+}
+
+double rounded_to(double value, int decimals) {
+  const std::string text =
+      in_pattern(value, Pattern("0." + std::string(static_cast<std::size_t>(decimals), '0')));
+  double number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
 }
 
 std::string plain_text(double value) { return localized(plain(value)); }

@@ -15,6 +15,9 @@ namespace mirolen::StringFormat {
 /// "Scientific" stands for "0.00E+00".
 std::string format_number(double value, std::string_view format);
 
+/// A value rounded to so many decimals, as its text in that format reads.
+double rounded_to(double value, int decimals);
+
 /// Plain text of a number: up to 15 significant digits, no trailing zeros, no blank in front; with an
 /// exponent from 1E+15 up and where more than 15 places would stand behind the separator.
 std::string plain_text(double value);

@@ -93,6 +93,8 @@ class Surface {
   virtual SurfaceSize measure(const FontSpec& font, std::string_view text) const = 0;
   virtual void flood_fill(const Brush& brush, PixelPoint seed, Color boundary) = 0;
   virtual std::shared_ptr<const Image> snapshot() const = 0;
+  /// Draws a snapshot of a surface of this kind at its place; one of another kind is left out.
+  virtual void restore(const Image& image) = 0;
   /// Shows what has been drawn; the device may wait as long as no eye sees the difference.
   virtual void refresh() = 0;
 };

@@ -55,6 +55,7 @@ class SurfaceCanvas : public PlotCanvas {
   void Font(const FontSpec& font) override { font_ = font; }
 
   void Cls() override;
+  void keep_as_background() override {}
   void Refresh() override;
   void Line(std::int16_t flags, double x1, double y1, double x2, double y2,
             std::optional<Color> color) override;

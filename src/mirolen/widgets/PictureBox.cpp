@@ -20,6 +20,20 @@ Surface* PictureBox::device() const {
   return surface_.get();
 }
 
+SurfaceSize PictureBox::container_unit() const {
+  const auto* picture = dynamic_cast<const PictureBox*>(container());
+  return picture && picture->ScaleMode() == pixels ? toolkit().twips_per_pixel() : SurfaceSize{1, 1};
+}
+
+void PictureBox::move_to(double left, double top) {
+  Move(left * container_unit().width, top * container_unit().height);
+}
+
+void PictureBox::Cls() {
+  SurfaceCanvas::Cls();
+  if (background_image_) device()->restore(*background_image_);
+}
+
 void PictureBox::changed() {
   if (surface_ && drawn_background_ != BackColor) {
     drawn_background_ = BackColor;

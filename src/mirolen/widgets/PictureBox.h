@@ -20,13 +20,18 @@ class PictureBox : public Widget, public SurfaceCanvas, public IndicatorMark {
   /// A copy of what is drawn.
   std::shared_ptr<const mirolen::Image> Image() const { return device()->snapshot(); }
 
-  double left() const override { return Left; }
-  double top() const override { return Top; }
-  double width() const override { return Width; }
-  double height() const override { return Height; }
+  // In the scale units of the container: twips, or pixels on a picture whose scale is pixels.
+  double left() const override { return Left / container_unit().width; }
+  double top() const override { return Top / container_unit().height; }
+  double width() const override { return Width / container_unit().width; }
+  double height() const override { return Height / container_unit().height; }
+  void Cls() override;
+  void keep_as_background() override { background_image_ = Image(); }
+  /// Takes away what `keep_as_background` kept.
+  void forget_background() { background_image_ = nullptr; }
   void Refresh() override { SurfaceCanvas::Refresh(); }
   void changed() override;
-  void move_to(double left, double top) override { Move(left, top); }
+  void move_to(double left, double top) override;
   void set_visible(bool visible) override { Visible = visible; }
 
   /// The size in whole pixels, 1 at least.
@@ -40,6 +45,9 @@ class PictureBox : public Widget, public SurfaceCanvas, public IndicatorMark {
   Color resolve(Color color) const override { return toolkit().resolve(color); }
 
  private:
+  SurfaceSize container_unit() const;
+
+  std::shared_ptr<const mirolen::Image> background_image_;
   mutable std::unique_ptr<Surface> surface_;
   mutable SurfaceSize drawn_size_;
   mutable Color drawn_background_ = 0;

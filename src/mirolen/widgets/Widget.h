@@ -13,7 +13,18 @@
 
 namespace mirolen {
 
-enum class WidgetKind { user_control, frame, label, button, shape, line, picture_box, image_box };
+enum class WidgetKind {
+  user_control,
+  frame,
+  label,
+  button,
+  text_field,
+  up_down,
+  shape,
+  line,
+  picture_box,
+  image_box
+};
 
 /// Background of an ordinary widget: the system's colour of a button's face.
 inline constexpr Color button_face = 0x8000000F;

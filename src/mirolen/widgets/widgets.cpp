@@ -1,5 +1,7 @@
 #include "mirolen/widgets/widgets.h"
 
+#include <algorithm>
+
 namespace mirolen {
 
 void Label::changed() {
@@ -8,6 +10,21 @@ void Label::changed() {
     Width = text.width * toolkit().twips_per_pixel().width;
   }
   Widget::changed();
+}
+
+void TextField::Text(const std::string& text) {
+  if (text == text_) return;
+  text_ = text;
+  changed();
+  if (OnChange) OnChange();
+}
+
+void UpDown::Value(int value) {
+  value = std::clamp(value, Min.get(), Max.get());
+  if (value == value_) return;
+  value_ = value;
+  changed();
+  if (OnChange) OnChange();
 }
 
 void LineShape::set_ends(double x1, double y1, double x2, double y2) {

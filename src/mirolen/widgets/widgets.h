@@ -46,11 +46,50 @@ class Button : public Widget {
   Property<Widget, std::string> Caption;
 };
 
-/// A rectangle filled in its BackColor, with a black edge.
-class Shape : public Widget, public ColorBox {
+/// A line of text that the user edits. Setting another text, by program or by typing, raises OnChange.
+class TextField : public Widget {
  public:
+  explicit TextField(Widget* container) : Widget(WidgetKind::text_field, container) {}
+
+  const std::string& Text() const { return text_; }
+  void Text(const std::string& text);
+
+  std::function<void()> OnChange;
+  /// A key that goes down, by its code: 38 is up, 40 is down.
+  std::function<void(int key)> OnKeyDown;
+
+ private:
+  std::string text_;
+};
+
+/// A spin button over whole numbers. Setting another value, by program or by the user, raises OnChange.
+class UpDown : public Widget {
+ public:
+  explicit UpDown(Widget* container) : Widget(WidgetKind::up_down, container) {}
+
+  Property<Widget, int> Min{*this, 0}, Max{*this, 100}, Increment{*this, 1};
+  int Value() const { return value_; }
+  /// Holds the value to Min and Max.
+  void Value(int value);
+
+  std::function<void()> OnChange;
+
+ private:
+  int value_ = 0;
+};
+
+/// A rectangle filled in its BackColor with a black edge, or a cross in it.
+class Shape : public Widget, public ColorBox, public IndicatorMark {
+ public:
+  enum class Form { rectangle, cross };
+
   explicit Shape(Widget* container) : Widget(WidgetKind::shape, container) {}
 
+  Property<Widget, Form> Look{*this, Form::rectangle};
+
+  double width() const override { return Width; }
+  double height() const override { return Height; }
+  void move_to(double left, double top) override { Move(left, top); }
   void set_color(Color color) override { BackColor = color; }
   void set_visible(bool visible) override { Visible = visible; }
 };

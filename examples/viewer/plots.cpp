@@ -1,0 +1,51 @@
+#include "plots.h"
+
+#include "mirolen/qt/Histogram.h"
+#include "mirolen/qt/LineScan.h"
+#include "mirolen/qt/Plot2D.h"
+#include "mirolen/qt/Plot2DB.h"
+#include "mirolen/qt/Plot2DC.h"
+#include "mirolen/qt/Plot2DN.h"
+#include "mirolen/qt/Plot2DS.h"
+#include "mirolen/qt/Plot3D.h"
+#include "mirolen/qt/Plot3DS.h"
+
+using namespace mirolen::qt;
+
+std::vector<NamedPlot> nine_plots(QWidget* parent) {
+  constexpr double cell = 2;  // mm
+  auto* const map = new Plot2D(parent);
+  map->setResolution(cell);
+  auto* const sigma_map = new Plot2DS(parent);
+  sigma_map->setResolution(cell);
+  auto* const contour = new Plot2DC(parent);
+  contour->setPlotColored(Plot2DC::Ten_ColorPlot);
+  contour->setResolution(Plot2DC::HighQuality);
+  return {{"plot2d", "Colour map", map},
+          {"plot2ds", "Sigma map", sigma_map},
+          {"plot2dc", "Contour", contour},
+          {"plot2dn", "Values", new Plot2DN(parent)},
+          {"plot2db", "Bars", new Plot2DB(parent)},
+          {"plot3d", "Surface", new Plot3D(parent)},
+          {"plot3ds", "Sigma surface", new Plot3DS(parent)},
+          {"histogram", "Histogram", new Histogram(parent)},
+          {"linescan", "Line scan", new LineScan(parent)}};
+}
+
+void fit_to_data(PlotWidget& plot) {
+  constexpr double highest_bar = 40;  // mm
+  constexpr int curves = 10;
+  const double range = plot.range();
+  if (!(range > 0)) return;
+  if (auto* bars = qobject_cast<Plot2DB*>(&plot)) bars->setBeamScale(highest_bar / range);
+  if (auto* contour = qobject_cast<Plot2DC*>(&plot))
+    contour->setInterval(QString::number(range / curves, 'g', 2).toDouble());  // the legend shows it
+}
+
+void mark_sites(PlotWidget& plot, bool on) {
+  if (auto* map = qobject_cast<CellMapWidget*>(&plot))
+    map->setShowSites(on ? CellMapWidget::ShowSite : CellMapWidget::HideSite);
+  if (auto* scan = qobject_cast<LineScan*>(&plot)) scan->setShowSites(on);
+  if (auto* contour = qobject_cast<Plot2DC*>(&plot))
+    contour->setMarksites(on ? Plot2DC::Exact : Plot2DC::None);
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "mirolen/qt/PlotWidget.h"
+
+/// One of the nine plots, with a name for files and a title for people.
+struct NamedPlot {
+  QString name, title;
+  mirolen::qt::PlotWidget* plot;
+};
+
+/// All nine, the colour map first, as children of a widget.
+std::vector<NamedPlot> nine_plots(QWidget* parent);
+
+/// Chooses what depends on the size of the values: the height of bars and the spacing of curves. Without it
+/// both are far off for values of another magnitude.
+void fit_to_data(mirolen::qt::PlotWidget& plot);
+
+/// Marks the sites on a plot that has marks for them.
+void mark_sites(mirolen::qt::PlotWidget& plot, bool on);

@@ -1,0 +1,36 @@
+#include "mirolen/controls/CellMapFrame.h"
+
+#include "mirolen/render/StringFormat.h"
+
+namespace mirolen {
+namespace {
+
+constexpr double default_resolution = 5;
+
+}  // namespace
+
+void CellMapFrame::Resolution(double v) {
+  if (!(v > 0)) v = default_resolution;
+  if (wafobj.test_diam / 4 < v) v = wafobj.test_diam / 4;
+  resolution_ = v;
+  look_changed("Resolution");
+}
+
+void CellMapFrame::ShowSites(Sites v) {
+  show_sites_ = v == Sites::HideSite ? Sites::HideSite : Sites::ShowSite;
+  look_changed("ShowSites");
+}
+
+void CellMapFrame::fill_in_settings() {
+  if (resolution_ == 0) Resolution(default_resolution);
+}
+
+void CellMapFrame::prepare_redraw() {
+  const double finest = wafobj.test_diam / 4;
+  if (!(finest < resolution_)) return;
+  resolution_ = finest;
+  toolkit().message_box("Maximal possible resolution is " + StringFormat::plain_text(finest) + " mm",
+                        "Standard resolution to high ", MessageIcon::critical);
+}
+
+}  // namespace mirolen

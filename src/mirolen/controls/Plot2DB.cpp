@@ -1,0 +1,56 @@
+#include "mirolen/controls/Plot2DB.h"
+
+#include <cmath>
+
+namespace mirolen {
+namespace {
+
+constexpr double default_footprint = 5, default_scale = 1;
+
+double finite_or(double fallback, double v) { return std::isfinite(v) ? v : fallback; }
+
+}  // namespace
+
+Plot2DB::Plot2DB(Toolkit& toolkit, Container& container) : PerspectiveFrame(toolkit, container) { realize(); }
+
+void Plot2DB::BeamWidth(double v) {
+  beam_width_ = finite_or(default_footprint, v);
+  look_changed("BeamWidth");
+}
+
+void Plot2DB::BeamHeight(double v) {
+  beam_height_ = finite_or(default_footprint, v);
+  look_changed("BeamHeight");
+}
+
+void Plot2DB::BeamScale(double v) {
+  beam_scale_ = finite_or(default_scale, v);
+  look_changed("BeamScale");
+}
+
+void Plot2DB::InitProperties() {
+  TestDiameter(194);
+  WaferDiameter(200);
+  WaferStyle(WaferSt::Notch);
+  BeamWidth(5);
+  BeamHeight(5);
+  GridRotation(40);
+  WaferRotation(40);
+  GridInclination(35);
+  BeamScale(1);
+  HideLegend(false);
+  PlotCaption("Wafer");
+}
+
+void Plot2DB::fill_in_settings() {
+  if (beam_width_ == 0) BeamWidth(default_footprint);
+  if (beam_height_ == 0) BeamHeight(default_footprint);
+}
+
+/// Bars have no grid that could be coarser.
+void Plot2DB::draw_view(bool) {
+  wafobj.D2BeamPlot(PLOTA, beam_width_, beam_height_, beam_scale_, GridRotation(), WaferRotation(),
+                    GridInclination(), false, 0, 0, 0, 0, 0);
+}
+
+}  // namespace mirolen

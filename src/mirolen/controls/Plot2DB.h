@@ -1,0 +1,32 @@
+#pragma once
+
+#include "mirolen/controls/PerspectiveFrame.h"
+
+namespace mirolen {
+
+/// The bar plot: the sites as bars on the inclined wafer, one colour for each interval.
+class Plot2DB : public PerspectiveFrame {
+ public:
+  Plot2DB(Toolkit& toolkit, Container& container);
+
+  // Footprint of a bar in millimetres; a number that is not finite becomes 5.
+  double BeamWidth() const { return beam_width_; }
+  void BeamWidth(double v);
+  double BeamHeight() const { return beam_height_; }
+  void BeamHeight(double v);
+  double BeamScale() const { return beam_scale_; }
+  /// Height of a bar, millimetres a unit of value; a number that is not finite becomes 1.
+  void BeamScale(double v);
+
+  void InitProperties() override;
+
+ protected:
+  void fill_in_settings() override;
+  void show_plot() override { resize_handler(); }
+  void draw_view(bool coarse) override;
+
+ private:
+  double beam_width_ = 0, beam_height_ = 0, beam_scale_ = 0;
+};
+
+}  // namespace mirolen

@@ -1,0 +1,163 @@
+#include "mirolen/controls/Plot2DC.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "mirolen/render/Screen.h"
+#include "mirolen/render/StringFormat.h"
+
+namespace mirolen {
+namespace {
+
+constexpr double default_interval = 1;
+
+/// Shows the messages of a renderer with a control's toolkit, as long as it lives.
+class MessagesThrough {
+ public:
+  explicit MessagesThrough(Toolkit& toolkit) {
+    screen().message = [&toolkit](const std::string& text, const std::string& title) {
+      toolkit.message_box(text, title, MessageIcon::none);
+    };
+  }
+  ~MessagesThrough() { screen().message = before_; }
+  MessagesThrough(const MessagesThrough&) = delete;
+  MessagesThrough& operator=(const MessagesThrough&) = delete;
+
+ private:
+  decltype(Screen::message) before_ = screen().message;
+};
+
+}  // namespace
+
+Plot2DC::Plot2DC(Toolkit& toolkit, Container& container) : MapFrame(toolkit, container) {
+  // Room for two numbers with exponents.
+  constexpr double column = 2385, legend = 2175, inner = 1935;
+  frmove.Width = column;
+  Frame1.Move(0, 0, column, 3300);
+  frleg.Move(120, 0, legend, 2760);
+  legende.Width = inner;
+  frInt.Border = false;
+  frInt.Move(120, 2400, inner, 300);
+  Label8.Move(0, 15, 700, 225);
+  lbldist.Move(720, 15, 1215, 225);
+  frleg0.Move(120, 0, legend, 600);
+  lbldist0.Move(120, 270, inner, 225);
+  Command1.Width = legend;
+  FNLabel.Width = legend;
+  place_legend();
+  realize();
+}
+
+void Plot2DC::Interval(double v) {
+  interval_ = std::isfinite(v) && v > 0 ? v : default_interval;
+  look_changed("Interval");
+}
+
+void Plot2DC::IntervalInPercent(std::int16_t v) {
+  interval_in_percent_ = v;
+  look_changed("IntervalInPercent");
+}
+
+void Plot2DC::MeasurementUnit(const std::string& v) {
+  measurement_unit_ = v;
+  look_changed("MeasurementUnit");
+}
+
+void Plot2DC::marksites(ExconEnum v) {
+  marksites_ = v;
+  look_changed("marksites");
+}
+
+void Plot2DC::Resolution(ResoEnum v) {
+  resolution_ = v;
+  look_changed("Resolution");
+}
+
+void Plot2DC::PlotColored(DrawColEnum v) {
+  plot_colored_ = v;
+  place_legend();
+  look_changed("PlotColored");
+}
+
+/// The column has one form for ten colours and one for all else.
+void Plot2DC::place_legend() {
+  const bool ten_rows = plot_colored_ == DrawColEnum::Ten_ColorPlot;
+  frleg0.Visible = !ten_rows;
+  frleg.Visible = ten_rows;
+  frmove.Height = ten_rows ? 5580 : 4440;
+  FNLabel.Move(120, ten_rows ? 3330 : 1920);
+  FNPic.Move(555, FNLabel.Top + 240);
+  Command1.Move(120, ten_rows ? 5100 : 3840);
+}
+
+void Plot2DC::ScaleType(std::int16_t v) {
+  scale_type_ = v;
+  look_changed("ScaleType");
+}
+
+void Plot2DC::MeanCurveColor(Color v) {
+  wafobj.ColS2 = v;
+  look_changed("MeanCurveColor");
+}
+
+void Plot2DC::UpperCurveColor(Color v) {
+  wafobj.ColS1 = v;
+  look_changed("UpperCurveColor");
+}
+
+void Plot2DC::LowerCurveColor(Color v) {
+  wafobj.ColS3 = v;
+  look_changed("LowerCurveColor");
+}
+
+void Plot2DC::InitProperties() {
+  TestDiameter(194);
+  WaferDiameter(200);
+  WaferStyle(WaferSt::Notch);
+  Resolution(ResoEnum::LowQuality);
+  marksites(ExconEnum::Exact);
+  Interval(1);
+  PlotColored(static_cast<DrawColEnum>(-1));
+  HideLegend(false);
+  PlotCaption("Wafer");
+  IntervalInPercent(-1);
+}
+
+void Plot2DC::fill_in_settings() {
+  if (interval_ == 0) Interval(default_interval);
+}
+
+double Plot2DC::distance() const {
+  if (interval_in_percent_ == 0) return interval_;
+  double base = wafobj.mean;
+  if (base == 0) base = wafobj.range;
+  if (base == 0) {
+    const double mean = std::abs(wafobj.mean);
+    if (mean < std::abs(Maximum()))
+      base = Maximum();
+    else if (mean < std::abs(Minimum()))
+      base = Minimum();
+    else
+      return 1;
+  }
+  return checked(interval_ * 100 / std::abs(base));
+}
+
+void Plot2DC::show_interval() {
+  const std::string unit = interval_in_percent_ != 0 ? measurement_unit_ : "%";
+  const std::string text = StringFormat::plain_text(interval_) + " " + unit;
+  lbldist.Caption = text;
+  lbldist0.Caption = text;
+}
+
+void Plot2DC::draw_plot() {
+  if (plot_colored_ == DrawColEnum::Ten_ColorPlot) fill_legend();
+  show_interval();
+  const std::int16_t radius = to_int16(std::min(PLOTA.ScaleWidth(), PLOTA.ScaleHeight()) / 2 - 5);
+  const MessagesThrough messages(toolkit());
+  wafobj.D2Contour(PLOTA, radius, distance(), static_cast<std::int16_t>(marksites_),
+                   static_cast<std::int16_t>(resolution_), static_cast<std::int16_t>(plot_colored_), 0, 0, 0,
+                   0, 0);
+}
+
+}  // namespace mirolen

@@ -1,0 +1,27 @@
+#include "mirolen/controls/describe_frame.h"
+#include "mirolen/controls/descriptions.h"
+
+namespace mirolen {
+namespace {
+
+using automation::Type;
+
+automation::ClassInfo describe_Plot2DN() {
+  auto tell = describe::frame<Plot2DN>("Plot2DN");
+  describe::plot_caption(tell);
+  describe::interval_colors(tell, 10);
+
+  describe::stored_wafer(tell, "2DN");
+  describe::stored_ten_colors(tell, "2DNInterCol");
+  describe::stored_window(tell, "2DN", "Wafer");
+  return tell.build();
+}
+
+}  // namespace
+
+const automation::ClassInfo& description_of_Plot2DN() {
+  static const automation::ClassInfo info = describe_Plot2DN();
+  return info;
+}
+
+}  // namespace mirolen

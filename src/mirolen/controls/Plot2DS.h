@@ -1,0 +1,20 @@
+#pragma once
+
+#include "mirolen/controls/CellMapFrame.h"
+#include "mirolen/controls/SigmaLegend.h"
+
+namespace mirolen {
+
+/// The sigma map: cells in three colours, above, inside and below a range of deviations round the mean.
+class Plot2DS : public SigmaLegend<CellMapFrame> {
+ public:
+  Plot2DS(Toolkit& toolkit, Container& container);
+
+  void InitProperties() override;
+
+ protected:
+  void show_plot() override { redraw_quietly(); }
+  void draw_plot() override;
+};
+
+}  // namespace mirolen

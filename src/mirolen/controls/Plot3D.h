@@ -1,0 +1,32 @@
+#pragma once
+
+#include "mirolen/controls/SurfaceFrame.h"
+
+namespace mirolen {
+
+/// The surface: the interpolated wafer in perspective, in ten colours or as a wire frame.
+class Plot3D : public SurfaceFrame {
+ public:
+  Plot3D(Toolkit& toolkit, Container& container);
+
+  PlotTypeEnum PlotType() const { return plot_type_; }
+  void PlotType(PlotTypeEnum v);
+
+  void InitProperties() override;
+
+  // The step of the colour scale, under the legend.
+  Frame frInt{&frleg};
+  Label Label30{&frInt, "Interval :"};
+  Label lbldist{&frInt};
+
+ protected:
+  void fill_in_settings() override;
+  void fill_legend() override;
+  void show_plot() override { resize_handler(); }
+  void draw_view(bool coarse) override { draw_surface(coarse, static_cast<std::int16_t>(plot_type_), 0); }
+
+ private:
+  PlotTypeEnum plot_type_{};
+};
+
+}  // namespace mirolen

@@ -1,0 +1,27 @@
+#include "mirolen/controls/Plot3DS.h"
+
+namespace mirolen {
+
+Plot3DS::Plot3DS(Toolkit& toolkit, Container& container) : SigmaLegend(toolkit, container) { realize(); }
+
+void Plot3DS::InitProperties() {
+  TestDiameter(194);
+  WaferDiameter(200);
+  WaferStyle(WaferSt::Notch);
+  SigmaRange(0.5);
+  XResolution(5);
+  YResolution(5);
+  GridRotation(40);
+  WaferRotation(40);
+  GridInclination(35);
+  PlotScale(40);
+  HideLegend(false);
+  PlotCaption("Wafer");
+}
+
+void Plot3DS::draw_view(bool coarse) {
+  constexpr std::int16_t sigma_colors = 4;
+  draw_surface(coarse, sigma_colors, SigmaRange());
+}
+
+}  // namespace mirolen

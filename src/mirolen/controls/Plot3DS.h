@@ -1,0 +1,21 @@
+#pragma once
+
+#include "mirolen/controls/SigmaLegend.h"
+#include "mirolen/controls/SurfaceFrame.h"
+
+namespace mirolen {
+
+/// The sigma surface: the surface in three colours, above, inside and below a range of deviations round the
+/// mean.
+class Plot3DS : public SigmaLegend<SurfaceFrame> {
+ public:
+  Plot3DS(Toolkit& toolkit, Container& container);
+
+  void InitProperties() override;
+
+ protected:
+  void show_plot() override { redraw_quietly(); }
+  void draw_view(bool coarse) override;
+};
+
+}  // namespace mirolen

@@ -1,0 +1,67 @@
+#include "mirolen/controls/SigmaLegend.h"
+
+#include <cmath>
+
+#include "mirolen/controls/CellMapFrame.h"
+#include "mirolen/controls/SurfaceFrame.h"
+#include "mirolen/render/StringFormat.h"
+
+namespace mirolen {
+
+template <class Control>
+SigmaLegend<Control>::SigmaLegend(Toolkit& toolkit, Container& container) : Control(toolkit, container) {
+  for (int sign = 0; sign < 3; ++sign) {
+    Label& label = sigma(sign);
+    label.Caption = "s";
+    label.Font = FontSpec{"Symbol", 10};
+    label.Height = 255;
+    label.AutoSize = true;
+  }
+  frInt.Border = false;
+  frInt.Move(120, 2010, 1695, 300);
+  Label8.Move(0, 15, 600, 225);
+  lbldist.Move(660, 15, 1000, 225);
+}
+
+template <class Control>
+void SigmaLegend<Control>::SigmaRange(double v) {
+  sigma_range_ = std::isfinite(v) ? v : default_range;
+  this->look_changed("SigmaRange");
+}
+
+template <class Control>
+void SigmaLegend<Control>::fill_in_settings() {
+  Control::fill_in_settings();
+  if (sigma_range_ == 0) SigmaRange(default_range);
+}
+
+template <class Control>
+void SigmaLegend<Control>::fill_legend() {
+  this->wafobj.scale_sigma(this->scalCol.template as<ColorBox>(), this->ScaleValue.template as<ValueLabel>(),
+                           sigma_range_);
+  for (int sign = 0; sign < 3; ++sign) {
+    const Label& text = this->ScaleValue(2 * sign + 1);
+    sigma(sign).Move(text.Left + text.Width + 60, text.Top - 45);
+  }
+  lbldist.Caption = StringFormat::plain_text(sigma_range_);
+}
+
+template <class Control>
+double& SigmaLegend<Control>::color_field(int interval) {
+  wafer& data = this->wafobj;
+  switch (interval) {
+    case 0:
+      return data.ColS1;
+    case 1:
+      return data.ColS2;
+    case 2:
+      return data.ColS3;
+    default:
+      throw SubscriptOutOfRange();
+  }
+}
+
+template class SigmaLegend<CellMapFrame>;
+template class SigmaLegend<SurfaceFrame>;
+
+}  // namespace mirolen

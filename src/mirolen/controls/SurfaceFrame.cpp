@@ -1,0 +1,44 @@
+#include "mirolen/controls/SurfaceFrame.h"
+
+namespace mirolen {
+namespace {
+
+constexpr double default_step = 5;
+
+}  // namespace
+
+double SurfaceFrame::step_in_range(double v) const {
+  if (!(v > 0)) v = default_step;
+  return v > wafobj.test_diam / 4 ? wafobj.test_diam / 4 : v;
+}
+
+void SurfaceFrame::XResolution(double v) {
+  x_resolution_ = step_in_range(v);
+  wafobj.changeResx = true;
+  look_changed("XResolution");
+}
+
+void SurfaceFrame::YResolution(double v) {
+  y_resolution_ = step_in_range(v);
+  wafobj.changeResx = true;
+  look_changed("YResolution");
+}
+
+void SurfaceFrame::PlotScale(std::int16_t v) {
+  plot_scale_ = v < 1 ? std::int16_t{0} : v;
+  look_changed("PlotScale");
+}
+
+void SurfaceFrame::fill_in_settings() {
+  if (x_resolution_ == 0) XResolution(default_step);
+  if (y_resolution_ == 0) YResolution(default_step);
+}
+
+void SurfaceFrame::draw_surface(bool coarse, std::int16_t style, double sigma_range) {
+  const double x_step = coarse ? coarse_step() : x_resolution_;
+  const double y_step = coarse ? coarse_step() : y_resolution_;
+  wafobj.D3Plot(PLOTA, x_step, y_step, plot_scale_, GridRotation(), WaferRotation(), GridInclination(), style,
+                sigma_range, false, 0, 0, 0, 0, 0);
+}
+
+}  // namespace mirolen

@@ -1,0 +1,29 @@
+#include "mirolen/qt/LineScan.h"
+
+#include "mirolen/qt/translate.h"
+
+namespace mirolen::qt {
+
+LineScan::LineScan(QWidget* parent) : PlotWidget(parent) {
+  adopt(std::make_unique<mirolen::LineScan>(toolkit(), container()));
+}
+
+int LineScan::GetLineOrAngle(int& angle, double& StartX, double& StartY, double& EndX, double& EndY) const {
+  std::int16_t degrees = short_of(angle);
+  const int result = control().GetLineOrAngle(degrees, StartX, StartY, EndX, EndY);
+  angle = degrees;
+  return result;
+}
+
+void LineScan::SetLineOrAngle(PlotTypeEnumLineScan PlotType, int angle, double AngleX, double AngleY,
+                              double StartX, double StartY, double EndX, double EndY) {
+  control().SetLineOrAngle(static_cast<mirolen::PlotTypeEnumLineScan>(PlotType), short_of(angle), AngleX,
+                           AngleY, StartX, StartY, EndX, EndY);
+}
+
+QSize LineScan::minimumSizeHint() const {
+  constexpr double width = 4000, height = 2850, bare_height = 1770;
+  return {pixels_of(width), pixels_of(HideLegend() ? bare_height : height)};
+}
+
+}  // namespace mirolen::qt

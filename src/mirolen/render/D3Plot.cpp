@@ -1,0 +1,239 @@
+#include <array>
+#include <cmath>
+#include <vector>
+
+#include "mirolen/render/ColorScale.h"
+#include "mirolen/render/Painter.h"
+
+namespace mirolen {
+namespace {
+
+enum Style : std::int16_t { poly_edge = 1, every_edge = 2, white_cells = 3, sigma_colors = 4, bands = 5 };
+
+constexpr double margin = 6;
+constexpr std::int16_t fewest_cells = 6;  // from the centre to the edge of the grid
+constexpr double no_data = 15.0;          // marks a cell without data; no colour
+constexpr Color first_system_color = 0x80000000;
+
+double rotate_x(double a, double b, double c, double d) { return a * c + b * d; }
+double rotate_y(double a, double b, double c, double d) { return b * c + a * d; }
+
+/// The steps of a surface's grid, turned: sampled on the wafer, and drawn on the canvas.
+struct TurnedGrid {
+  double sxc = 0, sys = 0, sxs = 0, syc = 0;
+  double pxc = 0, pyc = 0, pxs = 0, pys = 0;
+  double sinT = 0, cosT = 0;
+};
+
+/// One call of `D3Plot`. Cells are painted row by row from the far edge to the near one, so that a nearer
+/// cell covers what lies behind it. The value at each grid node is interpolated once.
+class SurfacePainter : Painter {
+ public:
+  /// What `D3Plot` was asked for; angles in degrees.
+  struct Request {
+    double resx, resy, fwscal;
+    double alp2, phi2, thet2;
+    std::int16_t style;
+    double SigmaRange;
+    bool fprint;
+  };
+
+  SurfacePainter(wafer& wafer, PlotCanvas& canvas, const Request& request, PlotArea& area, double Pi)
+      : Painter(wafer, canvas, area), request_(request), Pi_(Pi) {}
+
+  void set_levels();
+  void set_up();
+  void paint();
+
+ private:
+  void set_grid(double& res, std::int16_t& n);
+  void set_turn();
+  void set_scale();
+  void paint_row(int j);
+  void paint_cell(int i, int j, const std::array<double, 4>& heights);
+  Color cell_color(const std::array<double, 4>& heights) const;
+  double band_color_of(double zMean) const;
+  double sigma_color_of(double zMean) const;
+
+  double scaled(double level) const { return (level - wafer_.Low) * zScale_ / (wafer_.maxi - wafer_.Low); }
+  double node_height(int p, int q) const;
+  PixelPoint pixel(int p, int q, double height) const;
+
+  Request request_;
+  double Pi_;
+  bool plain_top_view_ = false;
+  double topLevel_ = 0, bottomLevel_ = 0, bandStep_ = 0;
+  std::int16_t nx_ = 0, ny_ = 0;
+  TurnedGrid turned_;
+  double scale_ = 0, zScale_ = 0;
+  double flatLimit_ = 0, radius_square_ = 0;
+  double sigma_low_ = 0, sigma_high_ = 0;
+  std::vector<double> rowZ_;  // heights of the far edge of the row being drawn
+};
+
+void SurfacePainter::set_levels() {
+  resume([&] {
+    const ScaleEnds ends = scale_ends(wafer_);
+    topLevel_ = ends.high;
+    bottomLevel_ = ends.low;
+  });
+  // The base follows the data: with limits set, too, the surface stands on the same ground.
+  resume([&] {
+    wafer_.Low = wafer_.maxi == wafer_.mini ? base_of_equal_limits(wafer_.mini)
+                                            : checked(wafer_.mini - (wafer_.maxi - wafer_.mini) * 0.1);
+  });
+}
+
+void SurfacePainter::set_up() {
+  plain_top_view_ = request_.alp2 == 0 && request_.phi2 == 0 && request_.thet2 == 90 && !request_.fprint;
+  for (double* angle : {&request_.alp2, &request_.thet2, &request_.phi2}) *angle = *angle * Pi_ / 180;
+  set_grid(request_.resx, nx_);
+  set_grid(request_.resy, ny_);
+  set_turn();
+  set_scale();
+
+  resume([&] { topLevel_ = checked(scaled(topLevel_)); });
+  resume([&] { bottomLevel_ = checked(scaled(bottomLevel_)); });
+  bandStep_ = (topLevel_ - bottomLevel_) / 10;
+  flatLimit_ = -(wafer_.flat_ratio - 0.5) * wafer_.WafDiam;
+  resume([&] { radius_square_ = checked(wafer_.test_diam / 2 * (wafer_.test_diam / 2)); });
+  resume([&] { sigma_low_ = checked(scaled(wafer_.mean - request_.SigmaRange * wafer_.StdDev)); });
+  resume([&] { sigma_high_ = checked(scaled(wafer_.mean + request_.SigmaRange * wafer_.StdDev)); });
+}
+
+void SurfacePainter::set_grid(double& res, std::int16_t& n) {
+  resume([&] { n = to_int16(divide(wafer_.test_diam / 2, res) + 2); });
+  if (n < fewest_cells) {
+    n = fewest_cells;
+    res = wafer_.test_diam / 8;
+  }
+}
+
+void SurfacePainter::set_turn() {
+  const double resx = request_.resx, resy = request_.resy;
+  const double d = request_.phi2 - request_.alp2;
+  turned_.sxc = resx * std::cos(d);
+  turned_.sys = resy * std::sin(d);
+  turned_.sxs = resx * std::sin(d);
+  turned_.syc = resy * std::cos(d);
+  turned_.pxc = resx * std::cos(request_.alp2);
+  turned_.pyc = resy * std::cos(request_.alp2);
+  turned_.pxs = resx * std::sin(request_.alp2);
+  turned_.pys = resy * std::sin(request_.alp2);
+  turned_.sinT = std::sin(request_.thet2);
+  turned_.cosT = std::cos(request_.thet2);
+}
+
+void SurfacePainter::set_scale() {
+  const auto& [sxc, sys, sxs, syc, pxc, pyc, pxs, pys, sinT, cosT] = turned_;
+  double scaleX = 0, scaleY = 0;
+  resume([&] { scaleX = divide((area_.width - margin) / 2, std::abs(pxc) * nx_ + std::abs(pys) * ny_); });
+  if (sinT == 0 && request_.fwscal == 0) {
+    scale_ = scaleX;
+  } else {
+    resume([&] {
+      scaleY = divide(area_.height - margin,
+                      (sinT + sinT) * (std::abs(pxs) * nx_ + std::abs(pyc) * ny_) + request_.fwscal * cosT);
+    });
+    scale_ = scaleX < scaleY ? scaleX : scaleY;
+  }
+  resume([&] { zScale_ = checked(scale_ * request_.fwscal); });
+}
+
+void SurfacePainter::paint() {
+  rowZ_.resize(static_cast<std::size_t>(2 * nx_ + 1));
+  for (int i = 0; i <= 2 * nx_; ++i) rowZ_[static_cast<std::size_t>(i)] = node_height(i, 0);
+  for (int j = 0; j < 2 * ny_; ++j) {
+    paint_row(j);
+    show();
+  }
+}
+
+void SurfacePainter::paint_row(int j) {
+  double zD = 0;
+  for (int i = 0; i < 2 * nx_; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    const double zA = rowZ_[at];
+    const double zB = rowZ_[at + 1];
+    const double zC = i == 0 ? node_height(i, j + 1) : zD;
+    zD = node_height(i + 1, j + 1);
+    rowZ_[at] = zC;
+    paint_cell(i, j, {zA, zB, zC, zD});
+  }
+  rowZ_.back() = zD;
+}
+
+double SurfacePainter::node_height(int p, int q) const {
+  const double x = rotate_x(nx_ - p, ny_ - q, turned_.sxc, turned_.sys);
+  const double y = rotate_y(-nx_ + p, ny_ - q, turned_.syc, turned_.sxs);
+  const bool on_wafer = radius_square_ > x * x + y * y && y > flatLimit_;
+  return scaled(on_wafer ? wafer_.Interpolation(x, y) : wafer_.Low);
+}
+
+PixelPoint SurfacePainter::pixel(int p, int q, double height) const {
+  const auto& t = turned_;
+  const double X = area_.left + area_.width / 2 + scale_ * ((nx_ - p) * t.pxc - (ny_ - q) * t.pys);
+  const double Y = area_.top + area_.height -
+                   scale_ * ((2 * nx_ - p) * t.pxs + (2 * ny_ - q) * t.pyc) * t.sinT - height * t.cosT;
+  return {to_int32(X), to_int32(Y)};
+}
+
+void SurfacePainter::paint_cell(int i, int j, const std::array<double, 4>& heights) {
+  const auto& [zA, zB, zC, zD] = heights;
+  std::array<PixelPoint, 4> cellPoints{};
+  resume([&] {
+    cellPoints = {pixel(i, j, zA), pixel(i + 1, j, zB), pixel(i + 1, j + 1, zD), pixel(i, j + 1, zC)};
+  });
+  resume([&] { canvas_.DrawStyle(solid_line); });
+  resume([&] { canvas_.FillColor(cell_color(heights)); });
+  const bool filled =
+      request_.style == poly_edge || (request_.style >= white_cells && request_.style <= bands);
+  resume([&] { canvas_.FillStyle(filled ? solid_fill : transparent_fill); });
+  resume([&] { canvas_.Polygon(cellPoints); });
+}
+
+Color SurfacePainter::cell_color(const std::array<double, 4>& heights) const {
+  const bool colored = request_.style == poly_edge || request_.style == bands;
+  if (!colored && request_.style != sigma_colors) return QBColor(15);
+
+  const auto& [zA, zB, zC, zD] = heights;
+  const double zMean = (zA + zB + zC + zD) / 4;
+  const bool touches_outside = zA == 0 || zB == 0 || zC == 0 || zD == 0;
+  double color = colored ? band_color_of(zMean) : sigma_color_of(zMean);
+  if (zMean == 0 || touches_outside) color = no_data;
+  if (color == no_data) return plain_top_view_ ? first_system_color : QBColor(15);
+  return to_color(color);
+}
+
+double SurfacePainter::band_color_of(double zMean) const {
+  if (topLevel_ == bottomLevel_) return wafer_.col6;
+  return band_color(wafer_, band_of(zMean, topLevel_, bandStep_));
+}
+
+double SurfacePainter::sigma_color_of(double zMean) const {
+  const bool flat = topLevel_ == bottomLevel_;
+  if (zMean < sigma_low_ && !flat) return wafer_.ColS3;
+  if (zMean > sigma_high_ && !flat) return wafer_.ColS1;
+  return wafer_.ColS2;
+}
+
+}  // namespace
+
+void wafer::D3Plot(PlotCanvas& Plot, double resx, double resy, double fwscal, double alp2, double phi2,
+                   double thet2, std::int16_t PlotStyle, double SigmaRange, bool fprint, double left,
+                   double top, double width, double height, std::int16_t ShowDispl) {
+  PlotArea area(Plot, left, top, width, height, ShowDispl, AreaRounding::all);
+  area.clear();
+  SurfacePainter painter(*this, Plot, {resx, resy, fwscal, alp2, phi2, thet2, PlotStyle, SigmaRange, fprint},
+                         area, Pi);
+  painter.set_levels();
+  area.locate();
+  area.resume([&] { Plot.ForeColor(QBColor(0)); });
+  area.resume([&] { Plot.DrawWidth(1); });
+  area.resume([&] { Plot.DrawStyle(solid_line); });
+  painter.set_up();
+  if (Nop > 3) painter.paint();
+  area.resume([&] { setMaximalMinial(maximal, minimal); });
+}
+
+}  // namespace mirolen

@@ -1,0 +1,115 @@
+#include "mirolen/dialogs/input_checks.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+
+#include "mirolen/core/wafer.h"
+
+namespace mirolen {
+namespace {
+
+const char* const words[] = {"",     " ",   "-",  "+",     ".",   "-.",  "abc",  "5a",    "a5",    "--5",
+                             "+-5",  "5 5", "e",  "e5",    "5e",  "5d",  "5e+",  "1e1e",  "1.2.3", "5-",
+                             "&H10", "(5)", "$5", "1 000", "inf", "nan", "0x10", "1e5.5", "5%",    "\n5x"};
+
+// ---- In range, or not to be judged ----
+
+TEST(InRangeOrOpen, TheLimitsThemselvesAreRefused) {
+  EXPECT_FALSE(IsInRangeOrOpen("-1", -1, 360));
+  EXPECT_FALSE(IsInRangeOrOpen("360", -1, 360));
+  EXPECT_FALSE(IsInRangeOrOpen("360.0", -1, 360));
+}
+
+TEST(InRangeOrOpen, OnlyNumbersBetweenThemPass) {
+  EXPECT_TRUE(IsInRangeOrOpen("0", -1, 360));
+  EXPECT_TRUE(IsInRangeOrOpen("-0.999", -1, 360));
+  EXPECT_TRUE(IsInRangeOrOpen("359", -1, 360));
+  EXPECT_TRUE(IsInRangeOrOpen("359.999", -1, 360));
+  EXPECT_FALSE(IsInRangeOrOpen("-2", -1, 360));
+  EXPECT_FALSE(IsInRangeOrOpen("361", -1, 360));
+  EXPECT_FALSE(IsInRangeOrOpen("360.001", -1, 360));
+}
+
+TEST(InRangeOrOpen, WhatIsNoNumberIsNotItsBusiness) {
+  for (const char* word : words) EXPECT_TRUE(IsInRangeOrOpen(word, -1, 0)) << '"' << word << '"';
+}
+
+TEST(InRangeOrOpen, ReadsEveryFormOfANumber) {
+  for (const char* ten : {"10", "+10", " 10", "10 ", "  10  ", "10.", "10.0", "1e1", "1E1", "1d1", "1D1",
+                          "1e+1", "100e-1", "010", ".1e2"}) {
+    EXPECT_TRUE(IsInRangeOrOpen(ten, 9.5, 10.5)) << ten;
+    EXPECT_FALSE(IsInRangeOrOpen(ten, 10, 20)) << ten;
+    EXPECT_FALSE(IsInRangeOrOpen(ten, 0, 10)) << ten;
+  }
+  EXPECT_FALSE(IsInRangeOrOpen("-.5", -0.5, 1));
+  EXPECT_TRUE(IsInRangeOrOpen("-.5", -0.6, 1));
+}
+
+TEST(InRangeOrOpen, AnEmptyIntervalRefusesEveryNumber) {
+  EXPECT_FALSE(IsInRangeOrOpen("5", 5, 5));
+  EXPECT_FALSE(IsInRangeOrOpen("5", 6, 4));
+  EXPECT_TRUE(IsInRangeOrOpen("", 6, 4));
+}
+
+// ---- A plain whole number ----
+
+TEST(PlainInteger, AnEmptyTextPasses) { EXPECT_TRUE(IsPlainInteger("")); }
+
+TEST(PlainInteger, PassesWithSignAndBlanks) {
+  for (const char* text : {"0", "7", "360", "-7", "+7", " 7", "7 ", "007", "123456789012345678901234567890"})
+    EXPECT_TRUE(IsPlainInteger(text)) << text;
+}
+
+TEST(PlainInteger, TextThatIsNoNumberIsRefused) {
+  for (const char* word : words) EXPECT_EQ(IsPlainInteger(word), *word == 0) << '"' << word << '"';
+}
+
+TEST(PlainInteger, NumbersWithExponentOrSeparatorAreRefused) {
+  for (const char* text : {"1e3", "1E3", "1d3", "1D3", "1.5", "1.", ".5", "1.0", "1,5", "1,000", "1e-3"})
+    EXPECT_FALSE(IsPlainInteger(text)) << text;
+}
+
+// ---- Decimal comma ----
+
+/// A locale with a decimal comma for one test; afterwards everything is as before.
+class InputWithDecimalComma : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr)
+        << "needs the locale de_DE.UTF-8: localedef -i de_DE -f UTF-8 de_DE.UTF-8";
+    const wafer made_in_this_locale;
+  }
+  void TearDown() override {
+    std::setlocale(LC_ALL, "C");
+    const wafer made_as_before;
+  }
+};
+
+TEST_F(InputWithDecimalComma, TheCommaSeparates) {
+  EXPECT_FALSE(IsInRangeOrOpen("1,5", 0, 1.5));
+  EXPECT_TRUE(IsInRangeOrOpen("1,5", 1.4, 1.6));
+  EXPECT_FALSE(IsInRangeOrOpen("1,5e1", 0, 15));
+  EXPECT_FALSE(IsInRangeOrOpen(",5", 0, 0.5));
+  EXPECT_FALSE(IsInRangeOrOpen("5,", 0, 5));
+}
+
+TEST_F(InputWithDecimalComma, ThePointMakesNoNumber) {
+  EXPECT_TRUE(IsInRangeOrOpen("1.5", 5, 6));
+  EXPECT_TRUE(IsInRangeOrOpen("1.000", 5, 6));
+}
+
+TEST_F(InputWithDecimalComma, APlainWholeNumberHasNeither) {
+  EXPECT_FALSE(IsPlainInteger("1,5"));
+  EXPECT_FALSE(IsPlainInteger("1."));
+  EXPECT_FALSE(IsPlainInteger("1.5"));
+  EXPECT_TRUE(IsPlainInteger("15"));
+}
+
+TEST(InputWithDecimalPoint, TheCommaMakesNoNumber) {
+  EXPECT_TRUE(IsInRangeOrOpen("1,5", 5, 6));
+  EXPECT_FALSE(IsInRangeOrOpen("1.5", 5, 6));
+}
+
+}  // namespace
+}  // namespace mirolen
