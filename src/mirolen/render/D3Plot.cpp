@@ -125,15 +125,16 @@ void SurfacePainter::set_turn() {
 }
 
 void SurfacePainter::set_scale() {
-  const auto& [sxc, sys, sxs, syc, pxc, pyc, pxs, pys, sinT, cosT] = turned_;
+  const TurnedGrid& t = turned_;
   double scaleX = 0, scaleY = 0;
-  resume([&] { scaleX = divide((area_.width - margin) / 2, std::abs(pxc) * nx_ + std::abs(pys) * ny_); });
-  if (sinT == 0 && request_.fwscal == 0) {
+  resume([&] { scaleX = divide((area_.width - margin) / 2, std::abs(t.pxc) * nx_ + std::abs(t.pys) * ny_); });
+  if (t.sinT == 0 && request_.fwscal == 0) {
     scale_ = scaleX;
   } else {
     resume([&] {
-      scaleY = divide(area_.height - margin,
-                      (sinT + sinT) * (std::abs(pxs) * nx_ + std::abs(pyc) * ny_) + request_.fwscal * cosT);
+      scaleY =
+          divide(area_.height - margin, (t.sinT + t.sinT) * (std::abs(t.pxs) * nx_ + std::abs(t.pyc) * ny_) +
+                                            request_.fwscal * t.cosT);
     });
     scale_ = scaleX < scaleY ? scaleX : scaleY;
   }
@@ -179,7 +180,7 @@ PixelPoint SurfacePainter::pixel(int p, int q, double height) const {
 }
 
 void SurfacePainter::paint_cell(int i, int j, const std::array<double, 4>& heights) {
-  const auto& [zA, zB, zC, zD] = heights;
+  const double zA = heights[0], zB = heights[1], zC = heights[2], zD = heights[3];
   std::array<PixelPoint, 4> cellPoints{};
   resume([&] {
     cellPoints = {pixel(i, j, zA), pixel(i + 1, j, zB), pixel(i + 1, j + 1, zD), pixel(i, j + 1, zC)};
