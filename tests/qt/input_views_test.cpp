@@ -4,10 +4,9 @@
 
 #include <QTest>
 
-#include "mirolen/qt/QtToolkit.h"
-#include "mirolen/qt/peers.h"
 #include "mirolen/widgets/PictureBox.h"
 #include "qt/qt_support.h"
+#include "qt/shown_tree.h"
 
 namespace mirolen {
 namespace {
@@ -16,8 +15,8 @@ using namespace qt_test;
 using qt::view_of;
 
 /// The widgets that take input, and those that lie on a picture.
-struct Tree : UserControl {
-  explicit Tree(qt::QtToolkit& toolkit) : UserControl(toolkit) {
+struct InputTree : UserControl {
+  explicit InputTree(qt::QtToolkit& toolkit) : UserControl(toolkit) {
     Move(0, 0, 6000, 4500);
     field.Move(150, 150, 1500, 330);
     spinner.Move(1650, 150, 300, 330);
@@ -38,21 +37,9 @@ struct Tree : UserControl {
   PictureBox inner{&picture};
 };
 
-class InputViews : public testing::Test {
+class InputViews : public ShownTree<InputTree> {
  protected:
-  InputViews() {
-    face.resize(400, 300);
-    face.show();
-    QTest::qWait(0);
-  }
-  QImage seen(const Widget& widget) {
-    return view_of(widget)->grab().toImage().scaled(view_of(widget)->size());
-  }
   QLineEdit& edit() { return *dynamic_cast<QLineEdit*>(view_of(tree.field)); }
-
-  QWidget face;
-  qt::QtToolkit toolkit{face};
-  Tree tree{toolkit};
 };
 
 TEST_F(InputViews, TypedTextIsAChangeOfItsField) {

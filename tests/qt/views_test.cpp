@@ -6,10 +6,9 @@
 #include <QTest>
 
 #include "mirolen/qt/Picture.h"
-#include "mirolen/qt/QtToolkit.h"
-#include "mirolen/qt/peers.h"
 #include "mirolen/qt/translate.h"
 #include "qt/qt_support.h"
+#include "qt/shown_tree.h"
 
 namespace mirolen {
 namespace {
@@ -18,8 +17,8 @@ using namespace qt_test;
 using qt::view_of;
 
 /// One widget of each kind on a shown face.
-struct Tree : UserControl {
-  explicit Tree(qt::QtToolkit& toolkit) : UserControl(toolkit) {
+struct EachKind : UserControl {
+  explicit EachKind(qt::QtToolkit& toolkit) : UserControl(toolkit) {
     Move(0, 0, 6000, 4500);
     frame.Move(150, 150, 3000, 3000);
     label.Move(300, 300, 1500, 225);
@@ -38,27 +37,13 @@ struct Tree : UserControl {
   LineShape line{&picture};
 };
 
-class Views : public testing::Test {
+class Views : public ShownTree<EachKind> {
  protected:
-  Views() {
-    face.resize(400, 300);
-    face.show();
-    QTest::qWait(0);
-  }
-  /// The picture of a widget in logical pixels.
-  QImage seen(const Widget& widget) {
-    const QImage grabbed = view_of(widget)->grab().toImage();
-    return grabbed.scaled(view_of(widget)->size());
-  }
   bool shows(const Widget& widget, const std::function<bool(const QColor&)>& is_wanted) {
     for (const Color color : colors_in(view_of(widget)->grab().toImage()))
       if (is_wanted(qt::qcolor_of(color))) return true;
     return false;
   }
-
-  QWidget face;
-  qt::QtToolkit toolkit{face};
-  Tree tree{toolkit};
 };
 
 TEST_F(Views, LieWhereTheirWidgetsAre) {
