@@ -16,7 +16,7 @@ automation::ClassInfo describe_Plot2DB() {
       .property("BeamScale", "height of a bar, mm a unit of value", &Plot2DB::BeamScale, &Plot2DB::BeamScale);
 
   describe::stored_wafer(tell, "2DB", Type::int16);
-  describe::stored_ten_colors(tell, "2DInterCol");
+  describe::stored_colors(tell, "2DInterCol", default_interval_colors);
   tell.stored("Stdbx2DB", Type::int16, 5, "BeamWidth").stored("Stdby2DB", Type::int16, 5, "BeamHeight");
   describe::stored_view(tell, "2DB");
   tell.stored("StdD3Scale2DB", Type::int16, 10, "BeamScale");

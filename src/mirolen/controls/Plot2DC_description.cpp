@@ -32,10 +32,13 @@ automation::ClassInfo describe_Plot2DC() {
                 &Plot2DC::LowerCurveColor);
 
   describe::stored_wafer(tell, "2DC");
-  tell.stored("2DCMeanCurveCol", Type::int32, static_cast<std::int32_t>(QBColor(2)), "MeanCurveColor")
-      .stored("2DCUpperCurveCol", Type::int32, static_cast<std::int32_t>(QBColor(4)), "UpperCurveColor")
-      .stored("2DCLowerCurveCol", Type::int32, static_cast<std::int32_t>(QBColor(1)), "LowerCurveColor");
-  describe::stored_ten_colors(tell, "2DCInterCol");
+  tell.stored("2DCMeanCurveCol", Type::int32, static_cast<std::int32_t>(default_sigma_colors[1]),
+              "MeanCurveColor")
+      .stored("2DCUpperCurveCol", Type::int32, static_cast<std::int32_t>(default_sigma_colors[0]),
+              "UpperCurveColor")
+      .stored("2DCLowerCurveCol", Type::int32, static_cast<std::int32_t>(default_sigma_colors[2]),
+              "LowerCurveColor");
+  describe::stored_colors(tell, "2DCInterCol", default_interval_colors);
   tell.stored("StdReso", Type::int16, 0, "Resolution")
       .stored("StdExCon", Type::int16, 1, "marksites")
       .stored("StdDist", Type::int16, 1, "Interval")

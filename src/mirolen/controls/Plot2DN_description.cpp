@@ -12,7 +12,7 @@ automation::ClassInfo describe_Plot2DN() {
   describe::interval_colors(tell, 10);
 
   describe::stored_wafer(tell, "2DN");
-  describe::stored_ten_colors(tell, "2DNInterCol");
+  describe::stored_colors(tell, "2DNInterCol", default_interval_colors);
   describe::stored_window(tell, "2DN", "Wafer");
   return tell.build();
 }

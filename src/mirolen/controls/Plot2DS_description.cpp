@@ -14,7 +14,7 @@ automation::ClassInfo describe_Plot2DS() {
   describe::sigma_range(tell);
 
   describe::stored_wafer(tell, "2DS");
-  describe::stored_colors(tell, "2DSInterCol", {4, 2, 1});
+  describe::stored_colors(tell, "2DSInterCol", default_sigma_colors);
   tell.stored("StdResx2DS", Type::int16, 5, "Resolution")
       .stored("StdMark2DS", Type::int32, 0, "ShowSites")
       .stored("StdSigRange2DS", Type::real, 0.5, "SigmaRange");

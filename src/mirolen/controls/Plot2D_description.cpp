@@ -13,7 +13,7 @@ automation::ClassInfo describe_Plot2D() {
   describe::cells(tell);
 
   describe::stored_wafer(tell, "2D");
-  describe::stored_ten_colors(tell, "2DInterCol");
+  describe::stored_colors(tell, "2DInterCol", default_interval_colors);
   tell.stored("StdResx2D", Type::int16, 5, "Resolution").stored("StdMark2D", Type::int32, 0, "ShowSites");
   describe::stored_window(tell, "2D", "Wafer");
   return tell.build();

@@ -15,7 +15,7 @@ automation::ClassInfo describe_Plot3DS() {
   describe::sigma_range(tell);
 
   describe::stored_wafer(tell, "3DS", Type::int16);
-  describe::stored_colors(tell, "3DSInterCol", {4, 2, 1});
+  describe::stored_colors(tell, "3DSInterCol", default_sigma_colors);
   tell.stored("StdResx3DS", Type::int16, 5, "XResolution")
       .stored("StdResy3DS", Type::int16, 5, "YResolution");
   describe::stored_view(tell, "3DS");

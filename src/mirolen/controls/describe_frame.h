@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "mirolen/automation/ClassBuilder.h"
 #include "mirolen/controls/ControlFrame.h"
 #include "mirolen/core/palette.h"
@@ -144,18 +146,10 @@ void stored_wafer(ClassBuilder<Control>& tell, const std::string& prefix, Type s
 }
 
 template <class Control>
-void stored_colors(ClassBuilder<Control>& tell, const std::string& key, std::initializer_list<int> defaults) {
-  int i = 0;
-  for (const int color : defaults) {
-    tell.stored(key + std::to_string(i), Type::int32, static_cast<std::int32_t>(QBColor(color)),
+void stored_colors(ClassBuilder<Control>& tell, const std::string& key, std::span<const Color> defaults) {
+  for (std::size_t i = 0; i < defaults.size(); ++i)
+    tell.stored(key + std::to_string(i), Type::int32, static_cast<std::int32_t>(defaults[i]),
                 "IntervalColor" + std::to_string(i));
-    ++i;
-  }
-}
-
-template <class Control>
-void stored_ten_colors(ClassBuilder<Control>& tell, const std::string& key) {
-  stored_colors(tell, key, {4, 12, 14, 10, 6, 2, 3, 9, 1, 5});
 }
 
 /// The angles of the plots in perspective, whose names end in that of the control.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "mirolen/core/RunTimeError.h"
 #include "mirolen/core/numbers.h"
 
@@ -13,5 +15,12 @@ constexpr Color QBColor(int n) {
   if (n < 0 || n > 15) throw InvalidArgument("a palette has the colours 0 to 15");
   return bgr[n];
 }
+
+/// The colours of a new wafer: of its ten intervals, top of the scale first, and of a sigma plot above,
+/// inside and below its range.
+inline constexpr std::array default_interval_colors{QBColor(4), QBColor(12), QBColor(14), QBColor(10),
+                                                    QBColor(6), QBColor(2),  QBColor(3),  QBColor(9),
+                                                    QBColor(1), QBColor(5)};
+inline constexpr std::array default_sigma_colors{QBColor(4), QBColor(2), QBColor(1)};
 
 }  // namespace mirolen

@@ -42,10 +42,13 @@ class wafer {
  public:
   // ---- Colours, as numbers that carry a colour value ----
   /// The ten interval colours, top of the scale first. A field of exactly 15.0 leaves its cells unpainted.
-  double col1 = QBColor(4), col2 = QBColor(12), col3 = QBColor(14), col4 = QBColor(10), col5 = QBColor(6);
-  double col6 = QBColor(2), col7 = QBColor(3), col8 = QBColor(9), col9 = QBColor(1), col10 = QBColor(5);
+  double col1 = default_interval_colors[0], col2 = default_interval_colors[1];
+  double col3 = default_interval_colors[2], col4 = default_interval_colors[3];
+  double col5 = default_interval_colors[4], col6 = default_interval_colors[5];
+  double col7 = default_interval_colors[6], col8 = default_interval_colors[7];
+  double col9 = default_interval_colors[8], col10 = default_interval_colors[9];
   /// The sigma colours: above, inside and below the range.
-  double ColS1 = QBColor(4), ColS2 = QBColor(2), ColS3 = QBColor(1);
+  double ColS1 = default_sigma_colors[0], ColS2 = default_sigma_colors[1], ColS3 = default_sigma_colors[2];
 
   // ---- Flags ----
   std::int16_t Save = 0, NewFile = 0;  ///< For the host; the library neither reads nor writes them.
