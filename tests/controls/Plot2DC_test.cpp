@@ -269,5 +269,71 @@ TEST_F(Plot2DCTest, TheLeastSizesAreThoseOfAllMaps) {
   EXPECT_EQ(control.Height.get(), 750);
 }
 
+// ---- A form that has no room for the least size ----
+
+/// Holds a control to a size, whatever it asks for, and keeps what it asked for.
+class NarrowForm : public Peer {
+ public:
+  NarrowForm(UserControl& control, const SurfaceSize& room, std::vector<SurfaceSize>& wishes)
+      : control_(control), room_(room), wishes_(wishes) {}
+  void changed() override {
+    if (control_.Width <= room_.width && control_.Height <= room_.height) return;
+    wishes_.push_back({control_.Width, control_.Height});
+    control_.Width = std::min<double>(control_.Width, room_.width);
+    control_.Height = std::min<double>(control_.Height, room_.height);
+  }
+  void refresh() override {}
+  std::uintptr_t handle() const override { return 0; }
+
+ private:
+  UserControl& control_;
+  const SurfaceSize room_;
+  std::vector<SurfaceSize>& wishes_;
+};
+
+class NarrowToolkit : public SpyToolkit {
+ public:
+  explicit NarrowToolkit(const SurfaceSize& room) : room_(room) {}
+  std::unique_ptr<Peer> make_peer(Widget& widget) override {
+    if (widget.container()) return nullptr;
+    return std::make_unique<NarrowForm>(dynamic_cast<UserControl&>(widget), room_, wishes);
+  }
+  std::vector<SurfaceSize> wishes;
+
+ private:
+  const SurfaceSize room_;
+};
+
+/// The sizes that a control asks for, and at last has, in a room.
+template <class Control>
+std::vector<SurfaceSize> sizes_in(const SurfaceSize& room) {
+  NarrowToolkit toolkit(room);
+  HeadlessContainer form;
+  Open<Control> control(toolkit, form);
+  control.InitProperties();
+  EXPECT_EQ(control.load(square_of_sites()), 0);
+  const double column = control.frmove.Left;
+  control.Move(0, 0, room.width, room.height);
+  toolkit.wishes.clear();
+  control.resize_to(room.width, room.height);
+  EXPECT_EQ(control.frmove.Left.get(), column) << "nothing is laid out";
+  EXPECT_EQ(toolkit.redraws, 0);
+  toolkit.wishes.push_back({control.Width, control.Height});
+  return toolkit.wishes;
+}
+
+TEST(Plot2DCInANarrowForm, AsksForTheSecondLeastSizeAndStops) {
+  EXPECT_EQ(sizes_in<Plot2DC>({2000, 1000}),
+            (std::vector<SurfaceSize>{{4500, 1000}, {2000, 3180}, {3420, 1000}, {2000, 1335}, {2000, 1000}}));
+  EXPECT_EQ(sizes_in<Plot2DC>({4000, 9000}), (std::vector<SurfaceSize>{{4500, 9000}, {4000, 9000}}));
+  EXPECT_EQ(sizes_in<Plot2DC>({9000, 3000}), (std::vector<SurfaceSize>{{9000, 3180}, {9000, 3000}}));
+}
+
+TEST(MapsInANarrowForm, AskOnceAndStop) {
+  const std::vector<SurfaceSize> once{{4500, 1000}, {2000, 3180}, {2000, 1000}};
+  EXPECT_EQ(sizes_in<Plot2D>({2000, 1000}), once);
+  EXPECT_EQ(sizes_in<Plot3DS>({2000, 1000}), once);
+}
+
 }  // namespace
 }  // namespace mirolen

@@ -194,6 +194,18 @@ TYPED_TEST(Boundaries, MoreSitesThanFitAreRefused) {
   EXPECT_EQ(this->control.load(this->sites(32768)), 4);
 }
 
+TYPED_TEST(Boundaries, ASmallControlTakesItsSmallestSizeByItself) {
+  EXPECT_EQ(this->control.Width.get(), ControlFrame::usual_size.width);
+  EXPECT_EQ(this->control.Height.get(), ControlFrame::usual_size.height);
+  this->place();
+  for (const bool hidden : {false, true}) {
+    this->control.HideLegend(hidden);
+    this->control.resize_to(0, 0);
+    EXPECT_EQ(this->control.Width.get(), this->control.smallest_size().width);
+    EXPECT_EQ(this->control.Height.get(), this->control.smallest_size().height);
+  }
+}
+
 TYPED_TEST(Boundaries, OfTheSizeLeaveAUsableControl) {
   this->place();
   this->start_again(12);

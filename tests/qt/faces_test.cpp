@@ -122,6 +122,8 @@ TEST_P(Face, DrawsItsWaferOnEveryScreen) {
 
 TEST_P(Face, KeepsTheSmallestSizeThatItAsksFor) {
   const auto face = make_face(GetParam().face);
+  EXPECT_EQ(face->size(), face->sizeHint());
+  EXPECT_EQ(face->sizeHint(), QSize(460, 320));
   const QSize smallest = face->minimumSizeHint();
   face->show();
   face->resize(face->minimumSizeHint());

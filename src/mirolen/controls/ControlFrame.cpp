@@ -16,6 +16,7 @@ double finite_or_zero(double value) { return std::isfinite(value) ? value : 0; }
 
 ControlFrame::ControlFrame(Toolkit& toolkit, Container& container)
     : UserControl(toolkit), PrinterObj(toolkit.default_printer()), container_(container) {
+  Move(0, 0, usual_size.width, usual_size.height);
   forward_events(*this);
 }
 
@@ -164,10 +165,10 @@ void ControlFrame::resize_to(double width, double height) {
   resize_handler();
 }
 
-void ControlFrame::raise_size(double least_width, double least_height) {
+void ControlFrame::raise_size(const SurfaceSize& least) {
   sizing_itself_ = true;
-  if (Width < least_width) Width = least_width;
-  if (Height < least_height) Height = least_height;
+  if (Width < least.width) Width = least.width;
+  if (Height < least.height) Height = least.height;
   sizing_itself_ = false;
 }
 

@@ -102,6 +102,10 @@ class ControlFrame : public UserControl {
   /// The settings of a control that is new to its form.
   virtual void InitProperties() = 0;
 
+  /// The size of a control that is new to its form, in twips.
+  static constexpr SurfaceSize usual_size{6900, 4800};
+  /// The size that a control takes by itself where its form gives it less, in twips.
+  virtual SurfaceSize smallest_size() const = 0;
   /// Takes a size in twips and lays the control out, as a change of size by the host's form does.
   void resize_to(double width, double height);
 
@@ -126,7 +130,7 @@ class ControlFrame : public UserControl {
   /// Runs the resize handler; an error ends it without a word.
   void resize_handler();
   /// Gives the control at least this size, inside its resize handler and without running that again.
-  void raise_size(double least_width, double least_height);
+  void raise_size(const SurfaceSize& least);
   /// Runs a step whose error the host is not told.
   template <class Step>
   static void quietly(Step step) {

@@ -9,7 +9,7 @@ namespace mirolen {
 namespace {
 
 constexpr std::int16_t default_classes = 10;
-constexpr double least_side = 2000, raised_side = 2100;
+constexpr double least_side = 2000;
 
 }  // namespace
 
@@ -20,7 +20,6 @@ Histogram::Histogram(Toolkit& toolkit, Container& container) : ControlFrame(tool
   OnEnterFocus = [this] {
     if (Command1.Visible) Command1.SetFocus();
   };
-  Move(0, 0, 6900, 4800);
   Command1.Move(0, 0, 1935, 420);
   PLOTA.Move(900, 150, 3000, 2000);
   PLOTA.BackColor = QBColor(15);
@@ -135,7 +134,9 @@ void Histogram::RedrawPlot() {
 
 void Histogram::lay_out() {
   if (ScaleWidth() < least_side || ScaleHeight() < least_side) {
-    raise_size(ScaleWidth() < least_side ? raised_side : 0, ScaleHeight() < least_side ? raised_side : 0);
+    const SurfaceSize raised = smallest_size();
+    raise_size(
+        {ScaleWidth() < least_side ? raised.width : 0, ScaleHeight() < least_side ? raised.height : 0});
     return;
   }
   Command1.Top = ScaleHeight() - Command1.Height;

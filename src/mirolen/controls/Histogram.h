@@ -45,6 +45,7 @@ class Histogram : public ControlFrame {
   void ResetControlLimit();
 
   void InitProperties() override;
+  SurfaceSize smallest_size() const override { return {2100, 2100}; }
 
   Frame frmhist{this, "Histogram"};
   PictureBox histPic{&frmhist};

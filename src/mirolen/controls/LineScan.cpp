@@ -50,7 +50,6 @@ LineScan::LineScan(Toolkit& toolkit, Container& container) : ControlFrame(toolki
 }
 
 void LineScan::place_children() {
-  Move(0, 0, 7200, 5400);
   PLOTA.ScaleMode(twips);
   PLOTA.BackColor = QBColor(15);
   PLOTA.Move(900, 420);
@@ -268,7 +267,7 @@ void LineScan::angle_key(int key) {
 void LineScan::lay_out() {
   const ResumeNext resume([] {});
   constexpr double strip = 1400;
-  raise_size(4000, LegendShown ? 2850 : 1770);
+  raise_size(smallest_size());
   PlotFrame.Move(0, 0, ScaleWidth(), LegendShown ? ScaleHeight() - strip : ScaleHeight());
   resume([&] { lblY(4).Caption = wafobj.scan_label(wafobj.maximal); });
   const double L = lblY(4).Left + lblY(4).Width;

@@ -71,6 +71,7 @@ class LineScan : public ControlFrame {
   void PlotCaption(const std::string& v);
 
   void InitProperties() override;
+  SurfaceSize smallest_size() const override { return {4000, LegendShown ? 2850. : 1770.}; }
 
   Frame PlotFrame{this};
   ControlArray<Label, 0, 5> lblX{&PlotFrame};

@@ -24,7 +24,6 @@ MapFrame::MapFrame(Toolkit& toolkit, Container& container) : ControlFrame(toolki
 }
 
 void MapFrame::place_children() {
-  Move(0, 0, 6900, 4800);
   PLOTA.Move(120, 240);
   frmove.Border = false;
   frmove.Height = 4290;
@@ -115,10 +114,18 @@ void MapFrame::lay_out() {
   }
 }
 
+SurfaceSize MapFrame::smallest_size() const {
+  return LegendShown ? SurfaceSize{4500, 3180} : SurfaceSize{750, 750};
+}
+
+bool MapFrame::too_small() const {
+  const SurfaceSize least = smallest_size();
+  return ScaleWidth() < least.width || ScaleHeight() < least.height;
+}
+
 bool MapFrame::lay_out_legend() {
-  constexpr double least_width = 4500, least_height = 3180;
-  raise_size(least_width, least_height);
-  if (ScaleWidth() < least_width || ScaleHeight() < least_height) {
+  raise_size(smallest_size());
+  if (too_small()) {
     give_up_size();
     return false;
   }
@@ -144,9 +151,8 @@ void MapFrame::size_legend() {
 }
 
 bool MapFrame::lay_out_bare() {
-  constexpr double least = 750;
-  if (ScaleWidth() < least || ScaleHeight() < least) {
-    raise_size(least, least);
+  if (too_small()) {
+    raise_size(smallest_size());
     return false;
   }
   plot_side_ = to_int16(std::min(ScaleWidth(), ScaleHeight()));

@@ -27,6 +27,8 @@ class MapFrame : public ControlFrame {
   Color IntervalColor(int interval) const;
   void IntervalColor(int interval, Color v);
 
+  SurfaceSize smallest_size() const override;
+
   // The children. A host leaves them alone; tests look at them.
   Frame Frplot{this, " Wafer "};
   ImageBox RePlot{&Frplot};  // below PLOTA, and seen when that is hidden
@@ -75,6 +77,7 @@ class MapFrame : public ControlFrame {
 
  private:
   void place_children();
+  bool too_small() const;
   bool lay_out_legend();
   bool lay_out_bare();
   double plot_side_ = 0;

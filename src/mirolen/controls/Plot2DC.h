@@ -53,7 +53,7 @@ class Plot2DC : public MapFrame {
   void show_plot() override { resize_handler(); }
   void draw_plot() override;
   void size_legend() override {}
-  void give_up_size() override { raise_size(3420, 1335); }
+  void give_up_size() override { raise_size({3420, 1335}); }
 
  private:
   void place_legend();

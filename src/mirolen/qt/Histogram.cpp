@@ -17,9 +17,4 @@ void Histogram::setGaussCurveColor(const QColor& v) {
   if (v.isValid()) control().GaussCurveColor(color_of(v));
 }
 
-QSize Histogram::minimumSizeHint() const {
-  constexpr double side = 2100;
-  return {pixels_of(side), pixels_of(side)};
-}
-
 }  // namespace mirolen::qt

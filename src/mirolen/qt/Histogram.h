@@ -33,8 +33,6 @@ class Histogram : public PlotWidget {
   QColor GaussCurveColor() const;
   void setGaussCurveColor(const QColor& v);
 
-  QSize minimumSizeHint() const override;
-
  public slots:
   void SetChartDim(double topC, double heightC) { control().SetChartDim(topC, heightC); }
   void Borderstyle(int Bstyle) { control().Borderstyle(short_of(Bstyle)); }

@@ -21,9 +21,4 @@ void LineScan::SetLineOrAngle(PlotTypeEnumLineScan PlotType, int angle, double A
                            AngleY, StartX, StartY, EndX, EndY);
 }
 
-QSize LineScan::minimumSizeHint() const {
-  constexpr double width = 4000, height = 2850, bare_height = 1770;
-  return {pixels_of(width), pixels_of(HideLegend() ? bare_height : height)};
-}
-
 }  // namespace mirolen::qt

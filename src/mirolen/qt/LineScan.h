@@ -55,8 +55,6 @@ class LineScan : public PlotWidget {
   /// Gives what `SetLineOrAngle` takes, in the mode in force; the point of the angle as the start. @return 0.
   int GetLineOrAngle(int& angle, double& StartX, double& StartY, double& EndX, double& EndY) const;
 
-  QSize minimumSizeHint() const override;
-
  public slots:
   void SetLineOrAngle(PlotTypeEnumLineScan PlotType, int angle, double AngleX, double AngleY, double StartX,
                       double StartY, double EndX, double EndY);

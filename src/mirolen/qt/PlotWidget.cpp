@@ -12,6 +12,12 @@
 
 namespace mirolen::qt {
 
+namespace {
+
+QSize size_of(const SurfaceSize& twips) { return {pixels_of(twips.width), pixels_of(twips.height)}; }
+
+}  // namespace
+
 /// What a host's form is to the control: it makes signals of its notices and events.
 class PlotWidget::Host : public Container {
  public:
@@ -99,15 +105,8 @@ void PlotWidget::setMouseIcon(const QPixmap& v) {
   emit MouseIconChanged();
 }
 
-QSize PlotWidget::sizeHint() const {
-  constexpr double usual_width = 6900, usual_height = 4800;
-  return {pixels_of(usual_width), pixels_of(usual_height)};
-}
-
-QSize PlotWidget::minimumSizeHint() const {
-  constexpr double width = 4500, height = 3180, bare = 750;
-  return HideLegend() ? QSize(pixels_of(bare), pixels_of(bare)) : QSize(pixels_of(width), pixels_of(height));
-}
+QSize PlotWidget::sizeHint() const { return size_of(ControlFrame::usual_size); }
+QSize PlotWidget::minimumSizeHint() const { return size_of(control_->smallest_size()); }
 
 std::int16_t PlotWidget::short_of(int v) {
   using range = std::numeric_limits<std::int16_t>;
