@@ -121,6 +121,33 @@ TEST_F(LineScanTest, AnAngleIsToldInCapitals) {
   EXPECT_EQ(form.changes, Names{"Angle"});
 }
 
+TEST_F(LineScanTest, AnAngleFromTheFieldIsToldOnceAChange) {
+  place();
+  for (const auto& [text, told] :
+       {std::pair{"045", 1}, {"45", 0}, {"46", 1}, {"x", 1}, {"0", 0}, {"359", 1}, {"", 1}}) {
+    form.changes.clear();
+    control.AngleValue.Text(text);
+    EXPECT_EQ(form.changes, Names(static_cast<std::size_t>(told), "Angle")) << text;
+  }
+  form.changes.clear();
+  control.UpDown1.Value(7);
+  EXPECT_EQ(form.changes, Names{"Angle"});
+}
+
+TEST_F(LineScanTest, AnAngleThatIsSetIsToldOnceAlsoWhenItStays) {
+  place();
+  for (int time = 0; time < 2; ++time) {
+    form.changes.clear();
+    control.angle(45);
+    EXPECT_EQ(form.changes, Names{"Angle"});
+  }
+  form.changes.clear();
+  control.SetLineOrAngle(PlotTypeEnumLineScan::vbAngle, 30, 0, 0, 0, 0, 0, 0);
+  EXPECT_EQ(form.changes, Names{"Angle"});
+  control.Plot();
+  EXPECT_EQ(form.changes, Names{"Angle"});
+}
+
 TEST_F(LineScanTest, AnAngleDrawsAtOnce) {
   plot_square();
   control.angle(37);

@@ -171,7 +171,9 @@ TEST_P(ResolutionMessage, TellsTheLargestPossibleOne) {
   control.load(sites_near_centre());
   control.TestDiameter(GetParam().test_diameter);
   ASSERT_EQ(control.Resolution(), 5);
+  forget_notices();
   EXPECT_EQ(control.Plot(), 0);
+  EXPECT_EQ(form.changes, Names{"Resolution"});
   ASSERT_EQ(toolkit.messages.size(), 1u);
   EXPECT_EQ(toolkit.messages[0].text, GetParam().text);
   EXPECT_EQ(toolkit.messages[0].title, "Standard resolution to high ");

@@ -157,6 +157,21 @@ TYPED_TEST(Drag, EachStepDrawsMiniatureAndCoarsePlot) {
   this->expect_miniature_of_the_view();
 }
 
+TYPED_TEST(Drag, EachAngleThatChangesIsToldOnce) {
+  this->press(this->control.PLOTA, 200, 100);
+  EXPECT_TRUE(this->form.changes.empty());
+  this->move(this->control.PLOTA, 160, 74);
+  EXPECT_EQ(this->form.changes, (Names{"GridInclination", "GridRotation"}));
+  this->move(this->control.PLOTA, 120, 74);
+  EXPECT_EQ(this->form.changes, (Names{"GridInclination", "GridRotation", "GridRotation"}));
+  this->form.changes.clear();
+  this->move(this->control.PLOTA, 120, -900);
+  this->move(this->control.PLOTA, 120, -1800);
+  EXPECT_EQ(this->form.changes, Names{"GridInclination"}) << "90 stays 90";
+  this->release(this->control.PLOTA, 120, -1800);
+  EXPECT_EQ(this->form.changes.size(), 1u);
+}
+
 TYPED_TEST(Drag, LeavesTheWafersRotation) {
   this->press(this->control.PLOTA, 100, 100);
   this->move(this->control.PLOTA, 60, 80);

@@ -109,6 +109,20 @@ TEST_F(LineScanFace, TellsAnAngleThatIsSetAndRefusesOneBeyondTheCircle) {
   EXPECT_EQ(messages, QStringList{"Angle value must be between 0 and 359"});
 }
 
+TEST_F(LineScanFace, TellsEachAngleThatTheUserGivesOnce) {
+  QSignalSpy changed(&face, &qt::LineScan::angleChanged);
+  type("45");
+  EXPECT_EQ(changed.size(), 2) << "4, then 45";
+  QTest::keyClick(&field(), Qt::Key_Up);
+  EXPECT_EQ(changed.size(), 3);
+  QTest::mouseClick(spinner().findChildren<QToolButton*>()[1], Qt::LeftButton);
+  EXPECT_EQ(changed.size(), 4);
+  QTest::keyClick(&field(), Qt::Key_X);
+  EXPECT_EQ(changed.size(), 5) << "no number is 0";
+  QTest::keyClick(&field(), Qt::Key_Left);
+  EXPECT_EQ(changed.size(), 5);
+}
+
 TEST_F(LineScanFace, MarksSitesWithTheirPlacesAsToolTips) {
   face.setShowSites(true);
   face.Plot();

@@ -96,6 +96,21 @@ TYPED_TEST(Rotation, TellsTheHostItsEndOnly) {
   EXPECT_EQ(up.size(), 1);
 }
 
+TYPED_TEST(Rotation, TellsEachAngleThatChangesOnce) {
+  QSignalSpy rotated(&this->face, &qt::PerspectiveWidget::GridRotationChanged);
+  QSignalSpy inclined(&this->face, &qt::PerspectiveWidget::GridInclinationChanged);
+  const auto told = [&] { return std::pair(rotated.size(), inclined.size()); };
+  using Told = std::pair<qsizetype, qsizetype>;
+  this->press();
+  EXPECT_EQ(told(), Told(0, 0));
+  this->drag({-100, 0});
+  EXPECT_EQ(told(), Told(1, 0));
+  this->drag({-100, -50});
+  EXPECT_EQ(told(), Told(1, 1));
+  this->release({-100, -50});
+  EXPECT_EQ(told(), Told(1, 1));
+}
+
 TYPED_TEST(Rotation, DoesNotFollowAMouseThatIsNotPressed) {
   this->drag({-100, -50});
   EXPECT_EQ(this->face.GridRotation(), 40);

@@ -29,6 +29,7 @@ void CellMapFrame::prepare_redraw() {
   const double finest = wafobj.test_diam / 4;
   if (!(finest < resolution_)) return;
   resolution_ = finest;
+  notify("Resolution");
   toolkit().message_box("Maximal possible resolution is " + StringFormat::plain_text(finest) + " mm",
                         "Standard resolution to high ", MessageIcon::critical);
 }

@@ -40,7 +40,10 @@ LineScan::LineScan(Toolkit& toolkit, Container& container) : ControlFrame(toolki
   OnEnterFocus = [this] {
     if (btnoptions.Visible) btnoptions.SetFocus();
   };
-  AngleValue.OnChange = [this] { quietly([&] { angle_text_changed(); }); };
+  AngleValue.OnChange = [this] {
+    quietly([&] { angle_text_changed(); });
+    if (angle_ != told_angle_) tell_angle();
+  };
   AngleValue.OnKeyDown = [this](int key) { angle_key(key); };
   UpDown1.OnChange = [this] {
     if (!emptied_) AngleValue.Text(std::to_string(UpDown1.Value()));
@@ -93,7 +96,13 @@ void LineScan::angle(std::int16_t v) {
     toolkit().message_box("Angle value must be between 0 and 359", "Input Error", MessageIcon::critical);
     return;
   }
+  const std::int16_t told = told_angle_;
   AngleValue.Text(std::to_string(v == full_turn ? 0 : v));
+  if (told_angle_ == told) tell_angle();  // a change has told itself
+}
+
+void LineScan::tell_angle() {
+  told_angle_ = angle_;
   notify("Angle");
 }
 

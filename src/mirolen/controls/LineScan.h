@@ -106,13 +106,14 @@ class LineScan : public ControlFrame {
   void draw_by_angle();
   void draw_curve(bool by_angle);
   void write_labels();
+  void tell_angle();
   void angle_text_changed();
   void angle_key(int key);
   void place_labels();
   bool line_mode() const { return plot_type_ == PlotTypeEnumLineScan::vbline; }
 
   PlotTypeEnumLineScan plot_type_ = PlotTypeEnumLineScan::vbAngle;
-  std::int16_t angle_ = 0;
+  std::int16_t angle_ = 0, told_angle_ = 0;
   double rotation_x_ = 0, rotation_y_ = 0;
   double start_x_ = 0, start_y_ = 0, end_x_ = 0, end_y_ = 0;
   bool show_sites_ = false;

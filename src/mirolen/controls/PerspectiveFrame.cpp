@@ -73,12 +73,18 @@ void PerspectiveFrame::drag_to(float x, float y) {
   const int dx = to_int16(divide((DragX - x) * 90, Width / pixel.width));
   const int dy = to_int16(divide((DragY - y) * 90, Height / pixel.height));
   if (dx == 0 && dy == 0) return;
-  grid_inclination_ = clipped(grid_inclination_ + dy);
-  grid_rotation_ = clipped(grid_rotation_ + dx);
+  take_angle(grid_inclination_, clipped(grid_inclination_ + dy), "GridInclination");
+  take_angle(grid_rotation_, clipped(grid_rotation_ + dx), "GridRotation");
   PlotValid = false;
   draw_coarse();
   DragX = x;
   DragY = y;
+}
+
+void PerspectiveFrame::take_angle(std::int16_t& angle, std::int16_t v, const char* property) {
+  if (angle == v) return;
+  angle = v;
+  notify(property);
 }
 
 void PerspectiveFrame::end_drag(const MouseEvent& event) {

@@ -36,6 +36,7 @@ class PerspectiveFrame : public MapFrame {
   void drag_on(Widget& widget, double units_per_pixel);
   void start_drag(float x, float y);
   void drag_to(float x, float y);
+  void take_angle(std::int16_t& angle, std::int16_t v, const char* property);
   void end_drag(const MouseEvent& event);
   void draw_coarse();
 
