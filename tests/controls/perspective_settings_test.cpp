@@ -173,6 +173,17 @@ TEST_F(Plot3DType, ReachesTheRenderer) {
   }
 }
 
+TEST_F(Plot3DType, IsKeptIn16Bits) {
+  plot_square();
+  control.PlotType(PlotTypeEnum::WireFrame);
+  form.changes.clear();
+  control.PlotValid = true;
+  control.PlotType(static_cast<PlotTypeEnum>(65537));
+  EXPECT_EQ(control.PlotType(), PlotTypeEnum::WireFrame);
+  EXPECT_FALSE(control.PlotValid);
+  EXPECT_EQ(form.changes, Names{"PlotType"});
+}
+
 TEST_F(Plot3DType, IsFilledInByThePlot) {
   control.wafobj.WafDiam = 200, control.wafobj.WaferOrigRad = 100;
   control.load(square_of_sites());

@@ -14,7 +14,7 @@ Plot3D::Plot3D(Toolkit& toolkit, Container& container) : SurfaceFrame(toolkit, c
 }
 
 void Plot3D::PlotType(PlotTypeEnum v) {
-  plot_type_ = v;
+  quietly([&] { plot_type_ = static_cast<PlotTypeEnum>(to_int16(static_cast<double>(v))); });
   look_changed("PlotType");
 }
 
