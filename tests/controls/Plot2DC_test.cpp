@@ -132,6 +132,13 @@ TEST_F(Plot2DCTest, SettingsAreKeptToldAndMakeThePlotStale) {
   EXPECT_EQ(control.IntervalInPercent(), 1);
 }
 
+TEST_F(Plot2DCTest, ColourFieldsThatAreNotFiniteDoNotThrow) {
+  control.wafobj.ColS1 = control.wafobj.ColS2 = control.wafobj.ColS3 = not_a_number;
+  EXPECT_EQ(control.MeanCurveColor(), 0u);
+  EXPECT_EQ(control.UpperCurveColor(), 0u);
+  EXPECT_EQ(control.LowerCurveColor(), 0u);
+}
+
 TEST_F(Plot2DCTest, TheCurveColoursAreThoseOfTheWafer) {
   EXPECT_EQ(control.MeanCurveColor(), 0x008000u);
   EXPECT_EQ(control.UpperCurveColor(), 0x000080u);

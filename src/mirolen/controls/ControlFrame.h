@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -139,6 +140,8 @@ class ControlFrame : public UserControl {
     } catch (const std::exception&) {
     }
   }
+  /// The colour that a field of the wafer carries; black where the host has left it no number.
+  static Color color_in(double field) { return std::isfinite(field) ? to_color(field) : 0; }
   /// What a setter of a look ends with.
   void look_changed(const char* property);
   void notify(const char* property) { container_.changed(property); }

@@ -1,7 +1,6 @@
 #include "mirolen/controls/MapFrame.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 
 #include "mirolen/controls/Hourglass.h"
@@ -183,8 +182,7 @@ double& MapFrame::color_field(int interval) { return band_color(wafobj, interval
 
 Color MapFrame::IntervalColor(int interval) const {
   if (interval < 0 || interval >= intervals()) return 0;
-  const double color = const_cast<MapFrame*>(this)->color_field(interval);
-  return std::isfinite(color) ? to_color(color) : 0;
+  return color_in(const_cast<MapFrame*>(this)->color_field(interval));
 }
 
 void MapFrame::IntervalColor(int interval, Color v) {

@@ -29,11 +29,11 @@ class Plot2DC : public MapFrame {
   /// For the host.
   void ScaleType(std::int16_t v);
 
-  Color MeanCurveColor() const { return to_color(wafobj.ColS2); }
+  Color MeanCurveColor() const { return color_in(wafobj.ColS2); }
   void MeanCurveColor(Color v);
-  Color UpperCurveColor() const { return to_color(wafobj.ColS1); }
+  Color UpperCurveColor() const { return color_in(wafobj.ColS1); }
   void UpperCurveColor(Color v);
-  Color LowerCurveColor() const { return to_color(wafobj.ColS3); }
+  Color LowerCurveColor() const { return color_in(wafobj.ColS3); }
   void LowerCurveColor(Color v);
 
   /// The spacing in percent of the mean, or of what stands in for a mean of 0, that `Interval` comes to.
