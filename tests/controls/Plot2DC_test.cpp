@@ -8,10 +8,9 @@ namespace {
 
 class Plot2DCTest : public ControlTest<Plot2DC> {
  protected:
-  /// The unit's interval, the statistics of which are told.
-  double distance_with(double mean, double range, double high, double low) {
+  /// The distance under data with these statistics.
+  double distance_with(double mean, double high, double low) {
     control.wafobj.mean = mean;
-    control.wafobj.range = range;
     control.wafobj.maxi = high;
     control.wafobj.mini = low;
     return control.distance();
@@ -44,8 +43,8 @@ TEST_F(Plot2DCTest, InPercentTheIntervalIsTheDistance) {
   place();
   control.Interval(2.5);
   control.IntervalInPercent(0);
-  EXPECT_EQ(distance_with(50, 100, 100, 0), 2.5);
-  EXPECT_EQ(distance_with(0, 0, 0, 0), 2.5);
+  EXPECT_EQ(distance_with(50, 100, 0), 2.5);
+  EXPECT_EQ(distance_with(0, 0, 0), 2.5);
 }
 
 TEST_F(Plot2DCTest, InTheUnitItIsInPercentOfTheMean) {
@@ -53,8 +52,8 @@ TEST_F(Plot2DCTest, InTheUnitItIsInPercentOfTheMean) {
   control.Interval(2.5);
   for (const std::int16_t flag : {-1, 1, 7}) {
     control.IntervalInPercent(flag);
-    EXPECT_EQ(distance_with(50, 100, 100, 0), 5);
-    EXPECT_EQ(distance_with(-50, 100, 100, 0), 5);
+    EXPECT_EQ(distance_with(50, 100, 0), 5);
+    EXPECT_EQ(distance_with(-50, 100, 0), 5);
   }
 }
 
@@ -62,12 +61,23 @@ TEST_F(Plot2DCTest, AMeanOf0IsReplacedByRangeThenByAnExtreme) {
   place();
   control.Interval(2);
   control.IntervalInPercent(-1);
-  EXPECT_EQ(distance_with(0, 40, 100, -100), 5);
-  EXPECT_EQ(distance_with(0, -40, 100, -100), 5);
-  EXPECT_EQ(distance_with(0, 0, 20, 10), 10);
-  EXPECT_EQ(distance_with(0, 0, -20, 10), 10);
-  EXPECT_EQ(distance_with(0, 0, 0, -10), 20);
-  EXPECT_EQ(distance_with(0, 0, 0, 0), 1);
+  EXPECT_EQ(distance_with(0, 20, -20), 5);
+  EXPECT_EQ(distance_with(0, -20, 20), 5);
+  EXPECT_EQ(distance_with(0, 20, 20), 10);
+  EXPECT_EQ(distance_with(0, -10, -10), 20);
+  EXPECT_EQ(distance_with(0, 0, 0), 1);
+}
+
+TEST_F(Plot2DCTest, PlotLimitsDoNotMoveTheCurvesOfAMeanOf0) {
+  place();
+  SiteColumns sites = square_of_sites();
+  for (std::size_t i = 0; i < sites.z.size(); ++i) sites.z[i] = static_cast<double>(i) - 12;
+  control.load(sites);
+  ASSERT_EQ(control.mean(), 0);
+  control.Interval(3);
+  control.IntervalInPercent(-1);
+  control.SetPlotLimit(-1, 1);
+  EXPECT_EQ(control.distance(), 12.5) << "percent of 24, the spread of the data";
 }
 
 TEST_F(Plot2DCTest, TheIntervalIsShownAsItWasSet) {

@@ -129,13 +129,12 @@ void Plot2DC::fill_in_settings() {
 
 double Plot2DC::distance() const {
   if (interval_in_percent_ == 0) return interval_;
-  double base = wafobj.mean;
-  if (base == 0) base = wafobj.range;
+  double base = mean();
+  if (base == 0) base = range();
   if (base == 0) {
-    const double mean = std::abs(wafobj.mean);
-    if (mean < std::abs(Maximum()))
+    if (std::abs(mean()) < std::abs(Maximum()))
       base = Maximum();
-    else if (mean < std::abs(Minimum()))
+    else if (std::abs(mean()) < std::abs(Minimum()))
       base = Minimum();
     else
       return 1;
