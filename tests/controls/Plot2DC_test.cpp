@@ -142,6 +142,13 @@ TEST_F(Plot2DCTest, SettingsAreKeptToldAndMakeThePlotStale) {
   EXPECT_EQ(control.IntervalInPercent(), 1);
 }
 
+TEST_F(Plot2DCTest, TheBackgroundGoesToBothLegendsAndTheirText) {
+  place();
+  control.BackColor(0x123456);
+  for (const Widget* frame : {&control.frleg0, &control.frleg, &control.frInt})
+    EXPECT_EQ(frame->BackColor.get(), 0x123456u);
+}
+
 TEST_F(Plot2DCTest, ColourFieldsThatAreNotFiniteDoNotThrow) {
   control.wafobj.ColS1 = control.wafobj.ColS2 = control.wafobj.ColS3 = not_a_number;
   EXPECT_EQ(control.MeanCurveColor(), 0u);

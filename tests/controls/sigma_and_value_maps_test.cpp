@@ -87,6 +87,11 @@ TYPED_TEST(SigmaPlot, TheLegendHasThreeRows) {
   EXPECT_EQ(this->control.scalCol(5).BackColor.get(), 0x800000u);
 }
 
+TYPED_TEST(SigmaPlot, TheBackgroundGoesBehindTheRangeToo) {
+  this->control.BackColor(0x123456);
+  EXPECT_EQ(this->control.frInt.BackColor.get(), 0x123456u);
+}
+
 // ---- Which plots are satisfied by the snapshot ----
 
 template <class Control>
@@ -207,6 +212,15 @@ TEST_F(Plot3DLegend, TellsTheTenBands) {
   plot_square();
   EXPECT_EQ(control.ScaleValue(1).Caption.get(), "100.00 -  90.00");
   EXPECT_EQ(control.scalCol(10).BackColor.get(), 0x800080u);
+}
+
+TEST_F(Plot3DLegend, TellsTheStepUnderTheBands) {
+  plot_square();
+  EXPECT_EQ(control.lbldist.Caption.get(), "10.0");
+  control.SetPlotLimit(0, 25);
+  EXPECT_EQ(control.lbldist.Caption.get(), "3.125") << "eight bands between limits, two beyond";
+  control.BackColor(0x123456);
+  EXPECT_EQ(control.frInt.BackColor.get(), 0x123456u);
 }
 
 }  // namespace

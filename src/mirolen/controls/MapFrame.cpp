@@ -85,6 +85,7 @@ void MapFrame::BackColor(Color v) {
   Frplot.BackColor = v;
   frleg.BackColor = v;
   Frame1.BackColor = v;
+  color_legend(v);
   if (PlotShown) quietly([&] { show_orientation(); });  // its picture was erased to the new background
   notify("BackColor");
 }

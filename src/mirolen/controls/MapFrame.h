@@ -62,6 +62,8 @@ class MapFrame : public ControlFrame {
   virtual void show_orientation();
   /// Where in `wafobj` a colour lies.
   virtual double& color_field(int interval);
+  /// Gives a background to what a control has in its legend beyond the children of all.
+  virtual void color_legend(Color) {}
   /// The widths of the legend column. It is as wide as its longest text, unless a control fixes it.
   virtual void size_legend();
   /// What happens to a control that cannot take its smallest size.

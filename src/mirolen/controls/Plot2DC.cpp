@@ -90,6 +90,11 @@ void Plot2DC::place_legend() {
   Command1.Move(120, ten_rows ? 5100 : 3840);
 }
 
+void Plot2DC::color_legend(Color v) {
+  frleg0.BackColor = v;
+  frInt.BackColor = v;
+}
+
 void Plot2DC::ScaleType(std::int16_t v) {
   scale_type_ = v;
   look_changed("ScaleType");

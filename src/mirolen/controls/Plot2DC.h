@@ -52,6 +52,7 @@ class Plot2DC : public MapFrame {
   void fill_in_settings() override;
   void show_plot() override { resize_handler(); }
   void draw_plot() override;
+  void color_legend(Color v) override;
   void size_legend() override {}
   void give_up_size() override { raise_size({3420, 1335}); }
 

@@ -22,6 +22,7 @@ class Plot3D : public SurfaceFrame {
  protected:
   void fill_in_settings() override;
   void fill_legend() override;
+  void color_legend(Color v) override { frInt.BackColor = v; }
   void show_plot() override { resize_handler(); }
   void draw_view(bool coarse) override { draw_surface(coarse, static_cast<std::int16_t>(plot_type_), 0); }
 

@@ -28,6 +28,7 @@ class SigmaLegend : public Control {
 
   void fill_in_settings() override;
   void fill_legend() override;
+  void color_legend(Color v) override { frInt.BackColor = v; }
   double& color_field(int interval) override;
 
  private:
