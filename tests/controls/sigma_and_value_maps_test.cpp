@@ -87,6 +87,15 @@ TYPED_TEST(SigmaPlot, TheLegendHasThreeRows) {
   EXPECT_EQ(this->control.scalCol(5).BackColor.get(), 0x800000u);
 }
 
+TYPED_TEST(SigmaPlot, ThePlotBringsTheLegendUpToDate) {
+  this->control.SigmaRange(1.5);
+  this->control.IntervalColor(1, 0x123456);
+  this->control.Plot();
+  EXPECT_EQ(this->control.ScaleValue(1).Caption.get(), ">   1.5");
+  EXPECT_EQ(this->control.scalCol(3).BackColor.get(), 0x123456u);
+  EXPECT_EQ(this->control.lbldist.Caption.get(), "1.5");
+}
+
 TYPED_TEST(SigmaPlot, TheBackgroundGoesBehindTheRangeToo) {
   this->control.BackColor(0x123456);
   EXPECT_EQ(this->control.frInt.BackColor.get(), 0x123456u);

@@ -13,7 +13,6 @@ class Plot2DS : public SigmaLegend<CellMapFrame> {
   void InitProperties() override;
 
  protected:
-  void show_plot() override { redraw_quietly(); }
   void draw_plot() override;
 };
 

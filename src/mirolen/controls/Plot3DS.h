@@ -14,7 +14,6 @@ class Plot3DS : public SigmaLegend<SurfaceFrame> {
   void InitProperties() override;
 
  protected:
-  void show_plot() override { redraw_quietly(); }
   void draw_view(bool coarse) override;
 };
 

@@ -47,6 +47,12 @@ void SigmaLegend<Control>::fill_legend() {
 }
 
 template <class Control>
+void SigmaLegend<Control>::show_plot() {
+  this->quietly([&] { fill_legend(); });
+  this->redraw_quietly();
+}
+
+template <class Control>
 double& SigmaLegend<Control>::color_field(int interval) {
   wafer& data = this->wafobj;
   switch (interval) {

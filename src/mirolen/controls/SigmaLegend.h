@@ -30,6 +30,8 @@ class SigmaLegend : public Control {
   void fill_legend() override;
   void color_legend(Color v) override { frInt.BackColor = v; }
   double& color_field(int interval) override;
+  /// Draws each time, and brings the legend up to date itself, as no resize handler runs.
+  void show_plot() override;
 
  private:
   double sigma_range_ = 0;
