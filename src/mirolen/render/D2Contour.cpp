@@ -159,9 +159,10 @@ bool ContourPainter::draw_curves() {
     return false;
   }
 
+  canvas_.ForeColor(level_color(wafer_.mean, wafer_.ColS2));
   canvas_.DrawWidth(2);
-  draw_level(wafer_.mean, wafer_.ColS2);
-  show();
+  DrawContourLevel(wafer_.mean);
+  if (canvas_.kind() == CanvasKind::picture_box) canvas_.Refresh();
   canvas_.DrawWidth(1);
   double before = wafer_.mean;
   for (double level = wafer_.mean + s; level < wafer_.maximal && level != before; level += s) {
