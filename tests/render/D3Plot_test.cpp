@@ -255,6 +255,16 @@ TEST(D3Plot, ColorsSigmaClassesAboveInsideAndBelowTheRange) {
   EXPECT_EQ(fill(0, 10, 0.45), text_of(QBColor(2)));
 }
 
+TEST(D3Plot, ReadsTheSigmaRangeForSigmaColorsAlone) {
+  const wafer source = wafer_with(spiral(9));
+  for (const std::int16_t style : {1, 2, 3, 5, 0}) {
+    SurfaceRequest none, out_of_range;
+    none.PlotStyle = out_of_range.PlotStyle = style;
+    out_of_range.SigmaRange = 1.7e308;
+    EXPECT_EQ(drawn(source, plan(), out_of_range).lines(), drawn(source, plan(), none).lines()) << style;
+  }
+}
+
 TEST(D3Plot, PaintsEqualValuesInTheSixthColorOrTheMiddleSigmaClass) {
   for (const double value : {0.0, 5.0, -5.0, 1e9}) {
     SurfaceRequest request;

@@ -49,6 +49,7 @@ class SurfacePainter : Painter {
   void set_grid(double& res, std::int16_t& n);
   void set_turn();
   void set_scale();
+  void set_sigma_range();
   void paint_row(int j);
   void paint_cell(int i, int j, const std::array<double, 4>& heights);
   Color cell_color(const std::array<double, 4>& heights) const;
@@ -97,6 +98,10 @@ void SurfacePainter::set_up() {
   bandStep_ = (topLevel_ - bottomLevel_) / 10;
   flatLimit_ = -(wafer_.flat_ratio - 0.5) * wafer_.WafDiam;
   resume([&] { radius_square_ = checked(wafer_.test_diam / 2 * (wafer_.test_diam / 2)); });
+  if (request_.style == sigma_colors) set_sigma_range();
+}
+
+void SurfacePainter::set_sigma_range() {
   resume([&] { sigma_low_ = checked(scaled(wafer_.mean - request_.SigmaRange * wafer_.StdDev)); });
   resume([&] { sigma_high_ = checked(scaled(wafer_.mean + request_.SigmaRange * wafer_.StdDev)); });
 }
