@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "failing_canvas.h"
 #include "plain_bars.h"
 #include "sample_wafers.h"
 
@@ -268,24 +269,11 @@ TEST(D2BeamPlot, AssumesAPageOf300DotsPerInchWhereThePrinterTellsNoResolution) {
 }
 
 TEST(D2BeamPlot, LeavesTheScaleFieldsConsistent) {
-  for (const auto& [upper, lower] : std::vector<std::pair<double, double>>{{60, 20}, {7, 7}, {-3, -3}})
-    for (const char* failing : {"", "Cls", "Polygon", "ScaleWidth"}) {
-      wafer source = wafer_with(spiral(10));
-      source.setMaximalMinial(upper, lower);
-      wafer copy = source;
-      copy.Low = 12345;
-      copy.range = copy.HiLo = -1;
-      CanvasSetup setup = plan();
-      setup.fails_in = failing;
-      RecordingCanvas canvas = setup.canvas();
-      draw_bars(copy, canvas, {});
-      expect_same_fields(copy, source);
-    }
+  expect_consistent_scale_fields(10,
+                                 [](wafer& source, PlotCanvas& canvas) { draw_bars(source, canvas, {}); });
 }
 
 // ---- Against a plain computation ----
-
-const RecordingCanvas::Rectangle kPage = {700, 1400, 4321, 3000};
 
 TEST(D2BeamPlotComputed, EveryKindOfCanvas) {
   const wafer source = wafer_with(spiral(30));
@@ -322,21 +310,16 @@ TEST(D2BeamPlotComputed, EveryRangeOfValuesWithAndWithoutLimits) {
 
 TEST(D2BeamPlotComputed, EveryMemberFailing) {
   const wafer source = wafer_with(spiral(6));
-  for (const char* member :
-       {"Cls", "Refresh", "ScaleLeft", "ScaleTop", "ScaleWidth", "ScaleHeight", "FillColor", "FillStyle",
-        "DrawStyle", "DrawWidth", "ForeColor", "Circle", "Polygon", "TwipsPerPixelX", "TwipsPerPixelY"})
-    for (const CanvasKind kind : kKinds)
-      for (const std::int16_t ShowDispl : {0, 1})
-        expect_as_worked_out(source, {kind, {5, 7, 250, 206}, {12, 18}, member, 0},
-                             {8, 6, 2, 40, 30, 35, false, kPage, ShowDispl});
+  for_each_failing_member([&](const CanvasSetup& setup, std::int16_t ShowDispl) {
+    expect_as_worked_out(source, setup, {8, 6, 2, 40, 30, 35, false, kPage, ShowDispl});
+  });
 }
 
 TEST(D2BeamPlotComputed, EachSingleCallFailing) {
   const wafer source = wafer_with(spiral(3));
   const BarRequest request{8, 6, 2, 40, 30, 35, false, kPage, 0};
-  for (const CanvasKind kind : kKinds)
-    for (int number = 1; number <= 45; ++number)
-      expect_as_worked_out(source, {kind, {5, 7, 250, 206}, {12, 18}, "", number}, request);
+  for_each_failing_call([&](const CanvasSetup& setup) { return drawn(source, setup, request); },
+                        [&](const CanvasSetup& setup) { expect_as_worked_out(source, setup, request); });
 }
 
 TEST(D2BeamPlot, ThrowsNothingForNumbersThatLeaveTheRangeOfADouble) {

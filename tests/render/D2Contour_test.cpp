@@ -3,6 +3,7 @@
 
 #include <set>
 
+#include "failing_canvas.h"
 #include "plain_contour.h"
 #include "sample_wafers.h"
 
@@ -286,30 +287,17 @@ TEST(D2Contour, DrawsTheMeanTwiceAsWide) {
   EXPECT_EQ(others, std::set<std::string>{"width 1"});
 }
 
-/// Expects an error of the canvas from each of its calls in turn, reads among them.
-void expect_error_of_each_call(const wafer& source, CanvasSetup setup, const ContourRequest& request) {
-  const int calls = drawn(source, setup, request).log.number_of_calls();
-  ASSERT_GT(calls, 20);
-  for (setup.fails_at = 1; setup.fails_at <= calls; ++setup.fails_at) {
-    RecordingCanvas canvas = setup.canvas();
-    wafer copy = source;
-    EXPECT_THROW(draw_contour(copy, canvas, request), CanvasError) << describe(setup);
-  }
-}
-
 TEST(D2Contour, PassesErrorsOfTheCanvasOn) {
-  Messages messages;
-  for (const CanvasKind kind : kKinds)
-    for (const std::int16_t ShowDispl : {0, 1}) {
-      CanvasSetup setup;
-      setup.kind = kind;
-      ContourRequest request;
-      request.area = {0, 0, 206, 206};
-      request.ShowDispl = ShowDispl;
-      request.distance = 20;
-      request.marked_sites = 1;
-      expect_error_of_each_call(wafer_with(spiral(9), kFlat), setup, request);
-    }
+  const wafer source = wafer_with(spiral(9), kFlat);
+  for (const std::int16_t ShowDispl : {0, 1}) {
+    const ContourRequest request{100, 20, 1, 0, 0, kPage, ShowDispl};
+    for_each_failing_call([&](const CanvasSetup& setup) { return drawn(source, setup, request); },
+                          [&](const CanvasSetup& setup) {
+                            RecordingCanvas canvas = setup.canvas();
+                            wafer copy = source;
+                            EXPECT_THROW(draw_contour(copy, canvas, request), CanvasError) << describe(setup);
+                          });
+  }
 }
 
 TEST(D2Contour, FailsForAWaferWithoutDiameter) {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "failing_canvas.h"
 #include "plain_site_texts.h"
 #include "sample_wafers.h"
 
@@ -167,18 +168,8 @@ TEST(SiteTexts, DrawTheDiscAloneWithoutSites) {
 }
 
 TEST(D2Number, LeavesTheScaleFieldsConsistent) {
-  for (const auto& [upper, lower] : std::vector<std::pair<double, double>>{{60, 20}, {7, 7}, {-3, -3}})
-    for (const char* failing : {"", "Cls", "Print", "ScaleWidth"}) {
-      wafer source = wafer_with(spiral(10));
-      source.setMaximalMinial(upper, lower);
-      wafer copy = source;
-      copy.Low = 12345;
-      copy.range = copy.HiLo = -1;
-      RecordingCanvas canvas;
-      if (*failing) canvas.log.fail_in(failing);
-      copy.D2Number(canvas, 0, 0, 0, 0, 0);
-      expect_same_fields(copy, source);
-    }
+  expect_consistent_scale_fields(
+      10, [](wafer& source, PlotCanvas& canvas) { source.D2Number(canvas, 0, 0, 0, 0, 0); });
 }
 
 TEST(GridPosPlot, LeavesTheScaleBaseAlone) {
@@ -190,8 +181,6 @@ TEST(GridPosPlot, LeavesTheScaleBaseAlone) {
 }
 
 // ---- Against a plain computation ----
-
-const RecordingCanvas::Rectangle kPage = {700, 1400, 4321, 3000};
 
 TEST(SiteTextsComputed, EveryKindOfCanvas) {
   for (const CanvasKind kind : kKinds)
@@ -219,20 +208,17 @@ TEST(SiteTextsComputed, AWaferWithoutATestDiameter) {
 }
 
 TEST(SiteTextsComputed, EveryMemberFailing) {
-  for (const char* member :
-       {"Cls", "Refresh", "ScaleLeft", "ScaleTop", "ScaleWidth", "ScaleHeight", "FillColor", "FillStyle",
-        "DrawStyle", "DrawWidth", "ForeColor", "Circle", "CurrentX", "CurrentY", "TextWidth", "TextHeight",
-        "Print", "TwipsPerPixelX", "TwipsPerPixelY"})
-    for (const CanvasKind kind : kKinds)
-      for (const std::int16_t ShowDispl : {0, 1})
-        expect_as_worked_out(wafer_with(spiral(5)), {kind, {5, 7, 250, 206}, {12, 18}, member, 0},
-                             {kPage, ShowDispl});
+  for_each_failing_member([](const CanvasSetup& setup, std::int16_t ShowDispl) {
+    expect_as_worked_out(wafer_with(spiral(5)), setup, {kPage, ShowDispl});
+  });
 }
 
 TEST(SiteTextsComputed, EachSingleCallFailing) {
-  for (const CanvasKind kind : kKinds)
-    for (int number = 1; number <= 40; ++number)
-      expect_as_worked_out(wafer_with(spiral(4)), {kind, {5, 7, 250, 206}, {12, 18}, "", number}, {kPage, 0});
+  const wafer source = wafer_with(spiral(4));
+  for_each_failing_call([&](const CanvasSetup& setup) { return drawn(&wafer::D2Number, source, setup); },
+                        [&](const CanvasSetup& setup) {
+                          expect_as_worked_out(source, setup, {kPage, 0});
+                        });
 }
 
 class SiteTextsOfRandomInput : public RandomInput {};

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <map>
 
+#include "failing_canvas.h"
 #include "plain_map.h"
 #include "sample_wafers.h"
 
@@ -493,17 +494,7 @@ TEST(D2Plot, TakesAnyStyleButFiveForASigmaMap) {
 // ---- What stays of it in the wafer ----
 
 TEST(D2Plot, LeavesTheScaleFieldsConsistent) {
-  const std::vector<std::pair<double, double>> limits = {{60, 20}, {7, 7}, {-3, -3}, {1, -1}};
-  for (const auto& [upper, lower] : limits) {
-    wafer source = wafer_with(spiral(10));
-    source.setMaximalMinial(upper, lower);
-    wafer drawn = source;
-    drawn.Low = 12345;
-    drawn.range = drawn.HiLo = -1;
-    RecordingCanvas canvas;
-    draw_map(drawn, canvas, {});
-    expect_same_fields(drawn, source);
-  }
+  expect_consistent_scale_fields(10, [](wafer& source, PlotCanvas& canvas) { draw_map(source, canvas, {}); });
 }
 
 TEST(D2Plot, EndsWithTheScaleBaseAtTheLowerLimitOrALittleBelowEqualOnes) {
@@ -520,28 +511,14 @@ TEST(D2Plot, EndsWithTheScaleBaseAtTheLowerLimitOrALittleBelowEqualOnes) {
   EXPECT_DOUBLE_EQ(source.Low, -5.501);
 }
 
-TEST(D2Plot, LeavesTheScaleFieldsConsistentAlsoWhenTheCanvasFails) {
-  const wafer source = wafer_with(spiral(10));
-  for (const char* member : {"Cls", "Circle", "Polygon", "ScaleWidth"}) {
-    wafer drawn = source;
-    drawn.Low = 12345;
-    RecordingCanvas canvas;
-    canvas.log.fail_in(member);
-    draw_map(drawn, canvas, {});
-    expect_same_fields(drawn, source);
-  }
-}
-
 // ---- Against a plain computation ----
-
-const std::vector<RecordingCanvas::Rectangle> kAreas = {{0, 0, 3090, 3090}, {700, 1400, 4321, 3000}};
 
 TEST(D2PlotComputed, EveryKindOfCanvasAndEveryArea) {
   const wafer source = wafer_with(spiral(49), kFlat, 200, 190);
   for (const CanvasKind kind : kKinds)
     for (const std::int16_t ShowDispl : {0, 1, 2})
       for (const SurfaceSize twips : {SurfaceSize{15, 15}, {4.8, 4.8}, {10, 20}})
-        for (const auto& area : kAreas)
+        for (const auto& area : {RecordingCanvas::Rectangle{0, 0, 3090, 3090}, kPage})
           expect_as_worked_out(source, {kind, {5, 7, 250, 206}, twips, "", 0},
                                {15, 5, 0, -1, area, ShowDispl});
 }
@@ -592,28 +569,16 @@ TEST(D2PlotComputed, AWaferWithoutATestDiameter) {
 
 TEST(D2PlotComputed, EveryMemberFailing) {
   const wafer source = wafer_with(spiral(10));
-  for (const char* member :
-       {"Cls", "Refresh", "ScaleLeft", "ScaleTop", "ScaleWidth", "ScaleHeight", "FillColor", "FillStyle",
-        "DrawStyle", "DrawWidth", "Circle", "Polygon", "Line", "TwipsPerPixelX", "TwipsPerPixelY"})
-    for (const CanvasKind kind : kKinds)
-      for (const std::int16_t ShowDispl : {0, 1})
-        expect_as_worked_out(source, {kind, {5, 7, 250, 206}, {12, 18}, member, 0},
-                             {20, 5, 0, -1, kAreas[1], ShowDispl});
+  for_each_failing_member([&](const CanvasSetup& setup, std::int16_t ShowDispl) {
+    expect_as_worked_out(source, setup, {20, 5, 0, -1, kPage, ShowDispl});
+  });
 }
 
 TEST(D2PlotComputed, EachSingleCallFailing) {
   const wafer source = wafer_with(spiral(4));
-  for (const CanvasKind kind : kKinds) {
-    const CanvasSetup setup{kind, {5, 7, 250, 206}, {12, 18}, "", 0};
-    const MapRequest request{25, 5, 0, -1, kAreas[1], 0};
-    const int calls = drawn_map(source, setup, request).log.number_of_calls();
-    EXPECT_GT(calls, 100);
-    for (int number = 1; number <= calls; ++number) {
-      CanvasSetup failing = setup;
-      failing.fails_at = number;
-      expect_as_worked_out(source, failing, request);
-    }
-  }
+  const MapRequest request{25, 5, 0, -1, kPage, 0};
+  for_each_failing_call([&](const CanvasSetup& setup) { return drawn_map(source, setup, request); },
+                        [&](const CanvasSetup& setup) { expect_as_worked_out(source, setup, request); });
 }
 
 TEST(D2Plot, OutlivesEveryErrorOfACanvas) {
