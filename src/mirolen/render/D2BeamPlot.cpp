@@ -62,16 +62,12 @@ void BarPainter::set_levels() {
   });
   request_.bx /= 2;
   request_.by /= 2;
-  resume([&] {
-    wafer_.Low = topLevel_ == bottomLevel_ ? base_of_equal_limits(bottomLevel_)
-                                           : checked(bottomLevel_ - (topLevel_ - bottomLevel_) * 0.1);
-  });
+  resume([&] { wafer_.Low = scale_base(topLevel_, bottomLevel_); });
 }
 
 void BarPainter::turn_sites() {
   const double phi = request_.phi2 * Pi_ / 180;
-  std::int16_t count = 0;
-  resume([&] { count = sites(); });
+  const std::int16_t count = count_sites();
   for (std::int32_t i = 1; i <= count; ++i) {
     const auto [x, y] = position(i);
     sites_.push_back(

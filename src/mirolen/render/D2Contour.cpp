@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "mirolen/render/ColorScale.h"
-#include "mirolen/render/Painter.h"
+#include "mirolen/render/PlanPainter.h"
 #include "mirolen/render/Screen.h"
 
 namespace mirolen {
@@ -62,7 +62,7 @@ ContourMesh BuildContourMesh(double test_diam, int rings, double Pi) {
   return mesh;
 }
 
-/// Where the level f to g crosses along one coordinate from a to b.
+/// Where a level lies along one coordinate from a to b, whose values are f and g.
 double EdgeCrossing(double a, double b, double f, double g, double level) {
   return a - divide((a - b) * (f - level), f - g);
 }
@@ -72,17 +72,16 @@ void show_message(const std::string& text, const std::string& title) {
 }
 
 /// One call of `D2Contour`. An error of the canvas ends it.
-class ContourPainter : Painter {
+class ContourPainter : PlanPainter {
  public:
   struct Request {
     std::int16_t st;
     double distance;
     std::int16_t marked_sites, reso, colored;
-    double page_left;
   };
 
   ContourPainter(wafer& wafer, PlotCanvas& canvas, const Request& request, PlotArea& area)
-      : Painter(wafer, canvas, area), request_(request) {}
+      : PlanPainter(wafer, canvas, area), request_(request) {}
 
   void set_up(double Pi);
   void draw_disc();
@@ -101,19 +100,16 @@ class ContourPainter : Painter {
   double ContourLevelColor(double level) const;
   void draw_flat();
   void draw_plus(SurfacePoint at, double arm);
-  SurfacePoint on_canvas(SurfacePoint at) const { return {cx_ + S_ * at.x, cy_ - S_ * at.y}; }
   void refresh_screen() {
     if (!area_.on_page()) canvas_.Refresh();
   }
 
   Request request_;
   ContourMesh mesh_;
-  double S_ = 0, cx_ = 0, cy_ = 0;
 };
 
 void ContourPainter::set_up(double Pi) {
-  cx_ = area_.left + area_.width / 2;
-  cy_ = area_.top + area_.height / 2;
+  set_centre();
   S_ = divide(request_.st, wafer_.WafDiam / 2);
   const int rings = SetContourQuality(request_.reso, wafer_.GetNop());
   mesh_ = BuildContourMesh(wafer_.test_diam, rings, Pi);
@@ -180,7 +176,7 @@ bool ContourPainter::draw_curves() {
 }
 
 void ContourPainter::refuse() {
-  if (area_.on_page() && request_.page_left < 0) return;
+  if (area_.on_page() && area_.left < 0) return;
   canvas_.DrawWidth(2);
   const double right = area_.left + area_.width, bottom = area_.top + area_.height;
   canvas_.Line(line_flags, area_.left, area_.top, right, bottom, QBColor(4));
@@ -264,7 +260,7 @@ void wafer::D2Contour(PlotCanvas& Plot, std::int16_t st, double distance, std::i
     area.width = Plot.ScaleWidth();
     area.height = Plot.ScaleHeight();
   }
-  ContourPainter painter(*this, Plot, {st, distance, marked_sites, reso, colored, left}, area);
+  ContourPainter painter(*this, Plot, {st, distance, marked_sites, reso, colored}, area);
   painter.set_up(Pi);
   painter.draw_disc();
   if (!painter.enough_sites()) return;

@@ -3,22 +3,20 @@
 #include <cmath>
 #include <vector>
 
-#include "mirolen/core/wafer.h"
 #include "mirolen/render/ColorScale.h"
-#include "mirolen/render/Painter.h"
+#include "mirolen/render/PlanPainter.h"
 
 namespace mirolen {
 namespace {
 
 constexpr std::int16_t color_map = 5;
-constexpr double margin = 6;        // scale units left free in width and height
 constexpr double unpainted = 15.0;  // a colour of this very value leaves a cell unpainted
 constexpr double no_data = 0;       // scaled height of a point outside the wafer
 constexpr std::int16_t fewest_cells = 4, most_cells = 100;  // from the centre to the edge
 
 /// One call of `D2Plot`. A colour map is a mosaic of square cells, drawn from the top right corner leftward
 /// and down; the value at each grid node is interpolated once, and a row of them is kept for the cells below.
-class MapPainter : Painter {
+class MapPainter : PlanPainter {
  public:
   /// What `D2Plot` was asked for.
   struct Request {
@@ -28,7 +26,7 @@ class MapPainter : Painter {
   };
 
   MapPainter(wafer& wafer, PlotCanvas& canvas, const Request& request, PlotArea& area)
-      : Painter(wafer, canvas, area), request_(request) {}
+      : PlanPainter(wafer, canvas, area), request_(request) {}
 
   void set_up();
   void paint_map();
@@ -53,7 +51,7 @@ class MapPainter : Painter {
   void box(double x1, double y1, double x2, double y2, Color color);
 
   bool inside(double x, double y) const { return y > flat_limit_ && x * x + y * y <= radius_square_; }
-  double norm(double z) const { return (z - wafer_.Low) * S_ / (high_ - wafer_.Low); }
+  double norm(double z) const { return PlanPainter::norm(z, high_); }
   double value_at(Corner node) const {
     return wafer_.Interpolation(node.gx * request_.res, node.gy * request_.res);
   }
@@ -68,9 +66,8 @@ class MapPainter : Painter {
 
   double high_ = 0, low_ = 0;  // the ends of the colour scale
   std::int16_t long_arm_ = 0, short_arm_ = 0, black_arm_ = 0;
-  std::int16_t n_ = 0;              // cells from the centre to the edge
-  double S_ = 0, cx_ = 0, cy_ = 0;  // scale units per millimetre, and the centre
-  double band_ = 0;                 // scaled height of a band
+  std::int16_t n_ = 0;  // cells from the centre to the edge
+  double band_ = 0;     // scaled height of a band
   double flat_limit_ = 0, radius_square_ = 0;
   double sigma_low_ = 0, sigma_high_ = 0;
   std::vector<std::int32_t> columns_, lines_;  // device pixels of the grid's lines, from -n up
@@ -91,9 +88,7 @@ void MapPainter::set_scale_ends() {
     high_ = ends.high;
     low_ = ends.low;
   });
-  resume([&] {
-    wafer_.Low = high_ == low_ ? base_of_equal_limits(low_) : checked(low_ - (high_ - low_) * 0.1);
-  });
+  resume([&] { wafer_.Low = scale_base(high_, low_); });
 }
 
 void MapPainter::set_mark_sizes() {
@@ -127,14 +122,8 @@ void MapPainter::set_grid() {
 }
 
 void MapPainter::set_mapping() {
-  resume([&] {
-    const double x = divide(area_.width - margin, 2 * n_ * request_.res);
-    const double y = divide(area_.height - margin, 2 * n_ * request_.res);
-    S_ = x < y ? x : y;
-  });
-  cx_ = area_.left + area_.width / 2;
-  cy_ = area_.top + area_.height / 2;
-  resume([&] { band_ = checked(S_ * (1 - divide((high_ - low_) * 0.1, high_ - wafer_.Low)) / 10); });
+  fit(2 * n_ * request_.res);
+  resume([&] { band_ = band_height(high_, low_); });
   flat_limit_ = -(wafer_.flat_ratio - 0.5) * wafer_.WafDiam;
   resume([&] { radius_square_ = checked(wafer_.test_diam / 2 * (wafer_.test_diam / 2)); });
   resume([&] { sigma_low_ = checked(norm(wafer_.mean - request_.SigmaRange * wafer_.StdDev)); });
@@ -162,10 +151,7 @@ void MapPainter::paint_map() {
 }
 
 void MapPainter::paint_disc() {
-  resume([&] { canvas_.FillStyle(solid_fill); });
-  resume([&] { canvas_.FillColor(QBColor(15)); });
-  resume([&] { canvas_.DrawStyle(solid_line); });
-  resume([&] { canvas_.DrawWidth(1); });
+  prepare_disc();
   resume([&] { canvas_.Circle(cx_, cy_, S_ * wafer_.test_diam / 2, QBColor(15)); });
 }
 
@@ -220,12 +206,10 @@ double MapPainter::sigma_color_of(double zc) const {
 }
 
 void MapPainter::mark_sites() {
-  std::int16_t count = 0;
-  resume([&] { count = sites(); });
+  const std::int16_t count = count_sites();
   for (std::int32_t k = 1; k <= count; ++k) {
     const bool high = value(k) >= wafer_.mean;
-    const double px = cx_ + S_ * position(k).x;
-    const double py = cy_ - S_ * position(k).y;
+    const auto [px, py] = on_canvas(position(k));
     box(px - long_arm_, py - short_arm_, px + long_arm_, py + short_arm_, QBColor(15));
     if (high) box(px - short_arm_, py - long_arm_, px + short_arm_, py + long_arm_, QBColor(15));
     box(px - black_arm_, py, px + black_arm_, py, QBColor(0));

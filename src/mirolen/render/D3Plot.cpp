@@ -56,7 +56,7 @@ class SurfacePainter : Painter {
   double band_color_of(double zMean) const;
   double sigma_color_of(double zMean) const;
 
-  double scaled(double level) const { return (level - wafer_.Low) * zScale_ / (wafer_.maxi - wafer_.Low); }
+  double scaled(double level) const { return height_on_scale(level, wafer_.maxi, zScale_); }
   double node_height(int p, int q) const;
   PixelPoint pixel(int p, int q, double height) const;
 
@@ -79,10 +79,7 @@ void SurfacePainter::set_levels() {
     bottomLevel_ = ends.low;
   });
   // The base follows the data: with limits set, too, the surface stands on the same ground.
-  resume([&] {
-    wafer_.Low = wafer_.maxi == wafer_.mini ? base_of_equal_limits(wafer_.mini)
-                                            : checked(wafer_.mini - (wafer_.maxi - wafer_.mini) * 0.1);
-  });
+  resume([&] { wafer_.Low = scale_base(wafer_.maxi, wafer_.mini); });
 }
 
 void SurfacePainter::set_up() {
