@@ -25,7 +25,8 @@ class BarPainter : Painter {
       : Painter(wafer, canvas, area), request_(request), Pi_(Pi) {}
 
   void set_levels();
-  void turn_sites();
+  void rotate_sites();
+  void sort_sites();
   void set_footprint();
   void set_scale();
   void paint_disc();
@@ -65,7 +66,7 @@ void BarPainter::set_levels() {
   resume([&] { wafer_.Low = scale_base(topLevel_, bottomLevel_); });
 }
 
-void BarPainter::turn_sites() {
+void BarPainter::rotate_sites() {
   const double phi = request_.phi2 * Pi_ / 180;
   const std::int16_t count = count_sites();
   for (std::int32_t i = 1; i <= count; ++i) {
@@ -73,6 +74,9 @@ void BarPainter::turn_sites() {
     sites_.push_back(
         {std::cos(phi) * x - std::sin(phi) * y, std::sin(phi) * x + std::cos(phi) * y, value(i)});
   }
+}
+
+void BarPainter::sort_sites() {
   std::stable_sort(sites_.begin(), sites_.end(),
                    [](const TurnedSite& a, const TurnedSite& b) { return a.siteY < b.siteY; });
 }
@@ -183,7 +187,8 @@ void wafer::D2BeamPlot(PlotCanvas& Plot, double bx, double by, double fwscal, do
   BarPainter painter(*this, Plot, {bx, by, fwscal, alp2, phi2, thet2}, area, Pi);
   painter.set_levels();
   area.locate();
-  painter.turn_sites();
+  painter.rotate_sites();
+  painter.sort_sites();
   painter.set_footprint();
   painter.set_scale();
   painter.paint_disc();
