@@ -1,71 +1,18 @@
 #include <array>
 #include <cmath>
-#include <vector>
 
 #include "mirolen/render/ColorScale.h"
+#include "mirolen/render/ContourMesh.h"
 #include "mirolen/render/PlanPainter.h"
 #include "mirolen/render/Screen.h"
 
 namespace mirolen {
 namespace {
 
-enum Reso : std::int16_t { low_quality = 0, high_quality = 1 };
 enum Marks : std::int16_t { at_sites = 1, at_nodes = 2 };
 enum Colors : std::int16_t { three_colors = 1, ten_colors = 2 };
 
 constexpr double notch = 1.0;
-
-/// Nodes on concentric rings, the values there, and the triangles between the rings.
-struct ContourMesh {
-  std::vector<SurfacePoint> ContourA;
-  std::vector<double> ContourB;
-  std::vector<std::array<std::size_t, 3>> ContourC;
-};
-
-/// Rings of the mesh. More sites, more rings.
-int SetContourQuality(std::int16_t reso, double sites) {
-  if (reso == low_quality) return 5;
-  if (reso == high_quality) return 10;
-  int rings = 2;
-  for (const int most_sites : {25, 49, 81, 121, 169, 225, 289, 361}) {
-    if (sites <= most_sites) return rings;
-    ++rings;
-  }
-  return rings;
-}
-
-/// Node j of a ring; ring 0 is the centre, ring i closes on itself after 8 i nodes.
-std::size_t node_of(std::size_t ring, std::size_t j) {
-  return ring == 0 ? 0 : 1 + 4 * ring * (ring - 1) + j % (8 * ring);
-}
-
-ContourMesh BuildContourMesh(double test_diam, int rings, double Pi) {
-  ContourMesh mesh;
-  mesh.ContourA.push_back({0, 0});
-  for (int i = 1; i <= rings; ++i) {
-    const double radius = i * test_diam / (2 * rings);
-    for (int j = 0; j < 8 * i; ++j) {
-      const double angle = j * (Pi / (4 * i));
-      mesh.ContourA.push_back({radius * std::cos(angle), radius * std::sin(angle)});
-    }
-  }
-  for (std::size_t ring = 1; ring <= static_cast<std::size_t>(rings); ++ring) {
-    for (std::size_t j = 0; j < 8 * ring; ++j) {
-      const std::size_t sector = j / ring;
-      const std::size_t inner = j - sector;
-      mesh.ContourC.push_back({node_of(ring - 1, inner), node_of(ring, j), node_of(ring, j + 1)});
-      if (j + 1 < (sector + 1) * ring)
-        mesh.ContourC.push_back(
-            {node_of(ring - 1, inner), node_of(ring - 1, inner + 1), node_of(ring, j + 1)});
-    }
-  }
-  return mesh;
-}
-
-/// Where a level lies along one coordinate from a to b, whose values are f and g.
-double EdgeCrossing(double a, double b, double f, double g, double level) {
-  return a - divide((a - b) * (f - level), f - g);
-}
 
 void show_message(const std::string& text, const std::string& title) {
   if (screen().message) screen().message(text, title);
@@ -210,8 +157,7 @@ void ContourPainter::DrawContourLevel(double level) {
       const double f = mesh_.ContourB[a], g = mesh_.ContourB[b];
       if (f == g || (level < f && level < g) || (level > f && level > g)) continue;
       // The last edge always gives the second end, so that a level through a node still yields one piece.
-      ends[from == 1 ? 1 : crossed] = {EdgeCrossing(mesh_.ContourA[a].x, mesh_.ContourA[b].x, f, g, level),
-                                       EdgeCrossing(mesh_.ContourA[a].y, mesh_.ContourA[b].y, f, g, level)};
+      ends[from == 1 ? 1 : crossed] = TriangleEdgeCrossing(mesh_, a, b, level);
       ++crossed;
     }
     if (crossed < 2) continue;
