@@ -9,6 +9,7 @@ namespace mirolen {
 namespace {
 
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
 
 std::string describe(const CanvasSetup& setup, const BarRequest& r) {
   return describe(setup) + line_of("; bx, by, fwscal:", r.bx, r.by, r.fwscal) +
@@ -167,8 +168,11 @@ TEST(D2BeamPlot, SurvivesABarAndAWaferWithoutSize) {
   CanvasSetup setup;
   setup.scale = {0, 0, 500, 110};
   wafer source = wafer_with({{0, 0, 0}, {0, 0, 9}});
-  source.WafDiam = 0;  // no width is wanted; 9.9 * cos 30 = 8.574 mm of height make 11.66 units a millimetre
-  EXPECT_EQ(polygons(source, setup, request).size(), 4u);
+  source.WafDiam = 0;  // no width is wanted; the bar of 9 takes all the height, 9.9 above the base
+  EXPECT_THAT(
+      polygons(source, setup, request),
+      UnorderedElementsAre("Polygon 250,5 250,5 250,5 250,5", "Polygon 250,105 250,105 250,5 250,5",
+                           "Polygon 250,96 250,96 250,96 250,96", "Polygon 250,105 250,105 250,96 250,96"));
   EXPECT_EQ(drawn(source, setup, request).log.of("Circle").size(), 1u);
 }
 
@@ -295,6 +299,8 @@ TEST(D2BeamPlotComputed, EveryAngle) {
 TEST(D2BeamPlotComputed, EveryRangeOfValuesWithAndWithoutLimits) {
   const std::vector<std::pair<double, double>> limits = {{45, 40}, {1000, -1000}, {7, 7},
                                                          {-2, -2}, {-40, -45},    {40, 45}};
+  CanvasSetup low;  // the height decides on the scale
+  low.scale = {0, 0, 2000, 206};
   for (const auto value : {bowl, falling, mixed, tiny, same, nothing})
     for (const double fwscal : {0.0, 1.0, 30.0}) {
       BarRequest request;
@@ -304,6 +310,7 @@ TEST(D2BeamPlotComputed, EveryRangeOfValuesWithAndWithoutLimits) {
       for (const auto& [upper, lower] : limits) {
         source.setMaximalMinial(upper, lower);
         expect_as_worked_out(source, plan(), request);
+        expect_as_worked_out(source, low, request);
       }
     }
 }

@@ -242,6 +242,24 @@ TEST(D2Contour, SpacesCurvesByTheFirstBaseThatFits) {
   EXPECT_EQ(levels(wafer_with(with_values({-13, -7, -10, -10})), 10), 4);
 }
 
+TEST(D2Contour, TakesTheSpanForABaseWhereTheMeanIsTooSmallForIt) {
+  // A span of 20 wants a spacing of 0.002. 10 % of the mean 0.01 are less: 2 is taken, from -9.99 to 8.01.
+  EXPECT_EQ(levels(wafer_with(with_values({10, -10, 0.04, 0})), 10), 9);
+  // 10 % of the mean 0.03 are enough, and the largest value gives the base: 1, from -9.97 to 9.03.
+  EXPECT_EQ(levels(wafer_with(with_values({10, -10, 0.12, 0})), 10), 19);
+}
+
+TEST(D2Contour, RefusesASpacingBelowATenThousandthOfTheRange) {
+  Messages messages;
+  wafer source = wafer_with(with_values({10, -10, 0, 0}));  // 10 % make a spacing of 2
+  source.range = 20000;
+  EXPECT_EQ(levels(source, 10), 8);
+  EXPECT_THAT(messages.shown, IsEmpty());
+  source.range = 20000.1;
+  EXPECT_EQ(levels(source, 10), 0);
+  EXPECT_EQ(messages.shown.size(), 1u);
+}
+
 TEST(D2Contour, DrawsNoCurvesForEqualValuesAndDoesNotRefuse) {
   Messages messages;
   EXPECT_EQ(levels(wafer_with(spiral(9, same)), 5), 0);

@@ -291,6 +291,18 @@ TEST(D3Plot, TakesAFlatSurfaceForOneWithoutData) {
   }
 }
 
+TEST(D3Plot, TakesACellAtTheBaseOnTheMeanForOneWithoutData) {
+  // The data go from 6 to 16 above a base of 5; the cell's corners stand 5 above it and 5 below.
+  wafer source = wafer_with({{0, 0, 0}, {25, 0, 0}, {0, 25, 10}, {25, 25, 10}});
+  source.maxi = source.maximal = 16;
+  source.mini = source.minimal = 6;
+  SurfaceRequest request;
+  for (const std::int16_t style : {1, 4, 5}) {
+    request.PlotStyle = style;
+    EXPECT_EQ(fill_of_that_cell(source, request), text_of(kSystemColor)) << style;
+  }
+}
+
 TEST(D3Plot, ShowsTheScreensBackgroundWhereThePlanViewHasNoData) {
   const wafer source = wafer_with(spiral(9));
   const auto system_cells = [&](SurfaceRequest request) {
