@@ -139,6 +139,18 @@ TEST(D2Contour, DrawsTheDiscAloneForThreeSites) {
   }
 }
 
+TEST(D2Contour, LeavesTheCanvasDrawingInBlack) {
+  ContourRequest request;
+  request.colored = 1;
+  for (const int count : {3, 49}) {
+    RecordingCanvas canvas;
+    canvas.ForeColor(4711);
+    wafer source = wafer_with(spiral(count));
+    draw_contour(source, canvas, request);
+    EXPECT_EQ(canvas.ForeColor(), QBColor(0)) << count;
+  }
+}
+
 TEST(D2Contour, CutsTheFlatOnAPictureBoxAlone) {
   // The flat ratio 0.9 puts the flat 80 units below the centre, 60 to either side.
   const wafer source = wafer_with(spiral(3), 0.9);
@@ -214,9 +226,12 @@ TEST(D2Contour, RefusesOnAPageInsideItsAreaUnlessThatLiesLeftOfIt) {
   EXPECT_THAT(drawn(wafer_with(spiral(9)), {}, request).log.of("Line"),
               ElementsAre("Line 6 10 20 310 220 128", "Line 6 10 220 310 20 128"));
   EXPECT_EQ(messages.shown.size(), 1u);
+  request.area.left = 0;
+  EXPECT_EQ(drawn(wafer_with(spiral(9)), {}, request).log.count("Line"), 2);
+  EXPECT_EQ(messages.shown.size(), 2u);
   request.area.left = -1;
   EXPECT_THAT(drawn(wafer_with(spiral(9)), {}, request).log.of("Line"), IsEmpty());
-  EXPECT_EQ(messages.shown.size(), 1u);
+  EXPECT_EQ(messages.shown.size(), 2u);
 }
 
 TEST(D2Contour, RefusesWithoutAnybodyToShowTheMessage) {
