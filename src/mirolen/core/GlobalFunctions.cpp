@@ -25,9 +25,11 @@ class KeptLimits {
   double minimal_;
 };
 
-void refuse_unless_finite(const ArrayView& array, std::int32_t n) {
+constexpr const char* site_number = "a site's number";
+
+void refuse_odd_elements(const ArrayView& array, std::int32_t n) {
   for (std::int32_t j = 1; j <= n; ++j)
-    if (array.has(j) && !std::isfinite(array(j))) throw InvalidArgument("a site's numbers must be finite");
+    if (array.has(j)) refuse_unless_finite({array(j)}, site_number);
 }
 
 double from_little_endian(const char* bytes) {
@@ -64,7 +66,7 @@ void load_file(bool PlotLimitSet, wafer& wafer, const std::string& datafile, dou
   for (const double number : numbers) {
     if (std::isfinite(number)) continue;
     wafer.reset();
-    throw InvalidArgument("a site's numbers must be finite");
+    refuse_unless_finite({number}, site_number);
   }
   for (std::size_t i = 0; i < n; ++i) wafer.SetGridValue(numbers[i], numbers[n + i], numbers[2 * n + i]);
   wafer.MaxMin();
@@ -81,7 +83,7 @@ std::int16_t LoadSiteArrays(bool PlotLimitSet, wafer& wafer, const ArrayView& x,
   if (x.LBound() != y.LBound() && Z.LBound() != y.LBound()) return 2;
   const std::int16_t lo = to_int16(static_cast<double>(x.LBound()));
   const std::int16_t n = to_int16(hi - lo + 1);
-  for (const ArrayView& array : {x, y, Z}) refuse_unless_finite(array, n);
+  for (const ArrayView& array : {x, y, Z}) refuse_odd_elements(array, n);
 
   const KeptLimits limits(PlotLimitSet, wafer);
   wafer.reset();

@@ -29,7 +29,7 @@ std::int16_t to_int16(double value) { return to_integer<std::int16_t>(value); }
 std::int32_t to_int32(double value) { return to_integer<std::int32_t>(value); }
 
 Color to_color(double value) {
-  if (!std::isfinite(value)) throw InvalidArgument("a colour that is not a number");
+  refuse_unless_finite({value}, "a colour");
   constexpr double modulus = 4294967296.0;
   const double rest = std::fmod(round_half_even(value), modulus);
   return static_cast<Color>(rest < 0 ? rest + modulus : rest);

@@ -2,6 +2,8 @@
 
 #include <cmath>
 #include <cstdint>
+#include <initializer_list>
+#include <string>
 
 #include "mirolen/core/RunTimeError.h"
 
@@ -22,6 +24,12 @@ Color to_color(double value);
 
 /// The largest whole number that is not above value.
 inline double Int(double value) { return std::floor(value); }
+
+/// @throws InvalidArgument, naming what, for a number that is infinite or NaN.
+inline void refuse_unless_finite(std::initializer_list<double> numbers, const char* what) {
+  for (const double number : numbers)
+    if (!std::isfinite(number)) throw InvalidArgument(std::string(what) + " must be finite");
+}
 
 /// The value of an arithmetic expression. @throws OverflowError if it became infinite or NaN on the way.
 inline double checked(double value) {

@@ -8,11 +8,6 @@ namespace {
 constexpr std::int32_t largest_store = 1 << 24;
 constexpr double nearly_zero = 1e-15;
 
-void refuse_unless_finite(double x, double y, double Z) {
-  if (!std::isfinite(x) || !std::isfinite(y) || !std::isfinite(Z))
-    throw InvalidArgument("a site's numbers must be finite");
-}
-
 }  // namespace
 
 void wafer::reset() {
@@ -26,7 +21,7 @@ void wafer::reset() {
 }
 
 void wafer::SetNop(double Number) {
-  if (!std::isfinite(Number)) throw InvalidArgument("a number of sites must be finite");
+  refuse_unless_finite({Number}, "the number of sites");
   if (Number > largest_store) throw OutOfMemory();
   const std::int32_t n = to_int32(Number);
   if (n < 0) throw SubscriptOutOfRange();
@@ -60,7 +55,7 @@ double wafer::GetGridValue(std::int16_t ind, Array& gr) const {
 
 void wafer::store_site(std::int32_t site, double x, double y, double Z) {
   const std::size_t at = place_of(site);
-  refuse_unless_finite(x, y, Z);
+  refuse_unless_finite({x, y, Z}, "a site's number");
 
   const bool zero = Z == 0 || (Z < nearly_zero && Z > -nearly_zero);
   if (zero) FW_NUll = true;

@@ -22,7 +22,7 @@ struct Decimal {
   int exponent = 0;
 
   explicit Decimal(double value) : negative(std::signbit(value)) {
-    if (!std::isfinite(value)) throw InvalidArgument("no text for a number that is not finite");
+    refuse_unless_finite({value}, "a number to be shown");
     // More digits than are kept, so that a tie is seen as one.
     std::array<char, 48> text{};
     std::snprintf(text.data(), text.size(), "%.*e", 2 * significant_digits, std::abs(value));

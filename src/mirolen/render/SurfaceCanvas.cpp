@@ -26,10 +26,7 @@ double twips_of(std::int16_t mode) {
   }
 }
 
-void refuse_unless_finite(std::initializer_list<double> numbers) {
-  for (const double number : numbers)
-    if (!std::isfinite(number)) throw InvalidArgument("a canvas draws at finite places only");
-}
+constexpr const char* place = "a place or size on a canvas";
 
 Pen::Style pen_style(std::int16_t draw_style) {
   using enum Pen::Style;
@@ -54,7 +51,7 @@ SurfaceSize SurfaceCanvas::unit(const char* member) const {
 
 SurfacePoint SurfaceCanvas::pixel(const char* member, double x, double y) const {
   const SurfaceSize scale = unit(member);
-  refuse_unless_finite({x, y});
+  refuse_unless_finite({x, y}, place);
   return {checked(x * scale.width), checked(y * scale.height)};
 }
 
@@ -128,7 +125,7 @@ void SurfaceCanvas::Line(std::int16_t flags, double x1, double y1, double x2, do
 
 void SurfaceCanvas::Circle(double x, double y, double radius, std::optional<Color> color,
                            std::optional<double> start, std::optional<double> end, double aspect) {
-  refuse_unless_finite({radius, aspect, start.value_or(0), end.value_or(0)});
+  refuse_unless_finite({radius, aspect, start.value_or(0), end.value_or(0)}, place);
   if (radius < 0 || aspect < 0) throw InvalidArgument("a circle has no negative size");
   Surface& device = surface("Circle");
   const SurfacePoint centre = pixel("Circle", x, y);
