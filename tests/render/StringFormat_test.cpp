@@ -63,6 +63,15 @@ TEST(FormatNumber, ShowsTheSeparatorAlsoWithoutDigitsBehindIt) {
   EXPECT_EQ(format_number(200000, "0.###E+#0"), "2.E+5");
 }
 
+TEST(FormatNumber, ShowsNoSeparatorForAFormatWithoutOne) {
+  EXPECT_EQ(format_number(12, "0"), "12");
+  EXPECT_EQ(format_number(2.5, "0"), "3");
+  EXPECT_EQ(format_number(0, "000"), "000");
+  EXPECT_EQ(format_number(-7, "0000"), "-0007");
+  EXPECT_EQ(format_number(0.25, "#"), "");
+  EXPECT_EQ(format_number(123456, "0E+0"), "1E+5");
+}
+
 TEST(FormatNumber, TakesTiesAwayFromZero) {
   EXPECT_EQ(format_number(0.125, "0.00"), "0.13");
   EXPECT_EQ(format_number(-0.125, "0.00"), "-0.13");

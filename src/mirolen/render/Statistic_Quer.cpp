@@ -11,22 +11,15 @@ namespace {
 
 constexpr Color red = 0x0000FF, blue = 0xFF0000, dark_blue = 0x800000;
 
-/// `format_number` shows a separator always; a format without one shows none.
-std::string formatted(double value, const std::string& fmt) {
-  std::string text = StringFormat::format_number(value, fmt);
-  if (fmt.find('.') == std::string::npos) text.resize(text.find_last_of("0123456789") + 1);
-  return text;
-}
-
 /// A value in a format that grows leading zeros while the text reads as zero; 0 shows the format itself.
 std::string format_scaled(double value, std::string fmt) {
   constexpr std::size_t most_places = 16;
   if (value == 0) return fmt;
   if (std::abs(value) < 0.00001 || value > 99999.99) return StringFormat::format_number(value, "0.00E+0");
-  std::string text = formatted(value, fmt);
+  std::string text = StringFormat::format_number(value, fmt);
   while (text.find_first_of("123456789") == std::string::npos && fmt.size() < most_places) {
     fmt.insert(0, 1, '0');
-    text = formatted(value, fmt);
+    text = StringFormat::format_number(value, fmt);
   }
   return text;
 }

@@ -73,8 +73,9 @@ struct Decimal {
 
 /// A format taken apart.
 struct Pattern {
-  int whole_digits = 0;     // always shown before the separator
-  int whole_places = 0;     // 0 and # before the separator
+  int whole_digits = 0;  // always shown before the separator
+  int whole_places = 0;  // 0 and # before the separator
+  bool separator = false;
   int decimals_always = 0;  // always shown behind it
   int decimals_most = 0;    // 0 and # behind it
   bool exponent = false;
@@ -87,6 +88,7 @@ struct Pattern {
     const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
     const std::string_view before = mantissa.substr(0, point);
     const std::string_view behind = mantissa.substr(std::min(point + 1, mantissa.size()));
+    separator = point < mantissa.size();
     whole_digits = zeros(before);
     whole_places = static_cast<int>(before.size());
     decimals_always = zeros(behind);
@@ -124,7 +126,7 @@ std::string in_pattern(double value, const Pattern& pattern) {
   std::string text = number.negative && !number.zero() ? "-" : "";
   for (int power = std::max(number.exponent, pattern.whole_digits) - 1; power >= 0; --power)
     text += number.digit(power);
-  text += '.';
+  if (pattern.separator) text += '.';
   const int decimals =
       number.zero() ? pattern.decimals_always : std::max(pattern.decimals_always, -number.lowest_power());
   for (int place = 1; place <= decimals; ++place) text += number.digit(-place);

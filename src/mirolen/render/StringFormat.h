@@ -10,9 +10,9 @@ namespace mirolen::StringFormat {
 // ties away from zero; a negative number that shows as zero has no minus. @throws InvalidArgument for a
 // number that is not finite.
 
-/// A number in a format of 0 (a digit always), # (a digit unless it is an outer zero), one "." (always shown)
-/// and optionally an exponent: "E+" (sign always) or "E-" followed by 0 and #. "0.0#" shows 2 as "2.0".
-/// "Scientific" stands for "0.00E+00".
+/// A number in a format of 0 (a digit always), # (a digit unless it is an outer zero), at most one "."
+/// (always shown where there is one) and optionally an exponent: "E+" (sign always) or "E-" followed by 0 and
+/// #. "0.0#" shows 2 as "2.0". "Scientific" stands for "0.00E+00".
 std::string format_number(double value, std::string_view format);
 
 /// A value rounded to so many decimals, as its text in that format reads.
