@@ -5,6 +5,30 @@
 
 namespace mirolen {
 
+void HistogramPainter::draw() {
+  prepare_lengths();
+  resume([&] { Plot_.FillColor(QBColor(2)); });
+  resume([&] { Plot_.DrawWidth(1); });
+  set_orientation();
+  resume([&] { set_class_base(); });
+  count();
+  fit_curve();
+  draw_count_axis();
+  if (has_classes()) draw_classes();
+  if (!r_.on_page) resume([&] { histPic_.Refresh(); });
+  show_bars();
+  if (has_curve()) {
+    resume([&] { Plot_.DrawWidth(2); });
+    set_mark_looks();
+    for (int k = -3; k <= 3; ++k) draw_sigma_mark(k);
+    draw_curve();
+  }
+  draw_axis_labels();
+  draw_limits();
+  show_bars();
+  resume([&] { Plot_.DrawWidth(1); });
+}
+
 void HistogramPainter::set_class_base() {
   const double low = wafer_.minimal;
   classBase_ = wafer_.maximal != low ? low : checked((low < 0 ? 1.1 * low : 0.9 * low) - 0.001);
@@ -42,6 +66,43 @@ void HistogramPainter::fit_curve() {
     if (wafer_.maxHauf < wafer_.GaussMax) wafer_.maxHauf = to_int16(wafer_.GaussMax);
     wafer_.GaussMax = wafer_.GaussMax / 0.4;
   });
+}
+
+void HistogramPainter::draw_classes() {
+  const double s = r_.breite / r_.stat_resol;
+  for (int b = 1; b <= classes(); ++b) {
+    if (const double height = histCount(b); height > 0) {
+      const SurfacePoint from = point((b - 1) * s, height / wafer_.maxHauf), to = point(s * b, 0);
+      resume([&] { Plot_.Line(filled_box_flags, from.x, from.y, to.x, to.y, to_color(wafer_.ColS2)); });
+      resume([&] { Plot_.Line(box_flags, from.x, from.y, to.x, to.y, QBColor(0)); });
+    }
+    draw_class_ticks((b - 1) * s, s * b);
+  }
+  draw_class_ticks(Int(r_.stat_resol) * s, r_.breite);
+  q_ = classes() + 1;
+}
+
+void HistogramPainter::draw_curve() {
+  resume([&] { histPic_.ForeColor(blue); });
+  resume([&] { Plot_.DrawWidth(on_printer() ? 4 : 2); });
+  double f0 = 0;
+  resume([&] { f0 = curve(classBase_); });
+  for (q_ = 1; q_ <= r_.breite; ++q_) {
+    const int p = q_;
+    resume([&] {
+      const double f1 = curve(divide(wafer_.maximal - classBase_, r_.breite) * p + classBase_);
+      if (f0 > 1 || f1 > 1) return;
+      const SurfacePoint from = point(p - 1, f0), to = point(p, f1);
+      Plot_.Line(line_flags, from.x, from.y, to.x, to.y, to_color(wafer_.ColS1));
+      f0 = f1;
+    });
+  }
+  show_bars();
+  resume([&] { Plot_.DrawWidth(1); });
+}
+
+void HistogramPainter::show_bars() {
+  if (!r_.on_page) resume([&] { Plot_.Refresh(); });
 }
 
 }  // namespace mirolen

@@ -8,42 +8,40 @@
 namespace mirolen {
 namespace {
 
-constexpr Color red = 0x0000FF, blue = 0xFF0000, dark_blue = 0xC00000;
+constexpr Color dark_blue = 0xC00000;
 
 /// The standing histogram: bars grow up from the bottom edge or down from the top edge.
-class StandingHistogram : HistogramPainter {
+class StandingHistogram : public HistogramPainter {
  public:
   StandingHistogram(wafer& wafer, const HistogramRequest& request, bool from_bottom, double Pi)
       : HistogramPainter(wafer, request, Pi), from_bottom_(from_bottom) {}
 
-  void draw();
-
  private:
+  void prepare_lengths() override;
   void fall_back() override;
+  void set_orientation() override;
   double class_of(double value) const override;
-  void convert_page();
-  void set_orientation();
-  void draw_count_axis();
-  void draw_classes();
-  void draw_class_ticks(double left_side, double right_side);
-  void draw_sigma_marks();
-  void draw_sigma_mark(int k);
-  void draw_curve();
-  void draw_class_labels();
-  void draw_limits(double low, double high);
+  SurfacePoint point(double along, double fraction) const override {
+    return {along + r_.left, y_of(fraction)};
+  }
+  void draw_count_axis() override;
+  void draw_class_ticks(double left_side, double right_side) override;
+  void set_mark_looks() override;
+  void draw_sigma_mark(int k) override;
+  void draw_axis_labels() override;
+  void draw_limits() override;
+
+  void draw_limit_pair(double low, double high);
   void draw_limit(double limit, const char* name);
   void write_below(double px, const std::string& text);
   void label(double centre, double top, const std::string& text);
   double y_of(double fraction) const {
     return barBase_ + r_.top - barSign_ * (r_.hoehe - r_.hoehe * fraction);
   }
-  double base_line() const { return barBase_ + r_.top - barSign_ * r_.hoehe; }
-  double along_classes(double value) const { return along(value, r_.breite); }
 
   bool from_bottom_;
   double markOver_ = 0;
   std::int16_t axisBottom_ = 0, tickLeft_ = 0;
-  int q_ = 0;  // the counter of the last loop, which decides about the inner labels
 };
 
 void StandingHistogram::fall_back() {
@@ -51,32 +49,8 @@ void StandingHistogram::fall_back() {
   r_.laenge = to_int16(r_.laenge / 4.8);
 }
 
-void StandingHistogram::draw() {
-  if (r_.on_page) convert_page();
-  resume([&] { Plot_.FillColor(QBColor(2)); });
-  resume([&] { Plot_.DrawWidth(1); });
-  set_orientation();
-  resume([&] { set_class_base(); });
-  count();
-  fit_curve();
-  draw_count_axis();
-  if (has_classes()) draw_classes();
-  if (!r_.on_page) {
-    resume([&] { histPic_.Refresh(); });
-    resume([&] { Plot_.Refresh(); });
-  }
-  if (has_curve()) {
-    draw_sigma_marks();
-    draw_curve();
-  }
-  draw_class_labels();
-  if (wafer_.vLcl != wafer_.vUcl) draw_limits(wafer_.vLcl, wafer_.vUcl);
-  if (control_limits().ShowCL) draw_limits(control_limits().ClLow, control_limits().ClHigh);
-  if (!r_.on_page) resume([&] { Plot_.Refresh(); });
-  resume([&] { Plot_.DrawWidth(1); });
-}
-
-void StandingHistogram::convert_page() {
+void StandingHistogram::prepare_lengths() {
+  if (!r_.on_page) return;
   for (double* across : {&r_.x0, &r_.breite, &r_.left}) resume([&] { *across = divide(*across, twips_x()); });
   for (double* down : {&r_.y0, &r_.hoehe, &r_.top}) resume([&] { *down = divide(*down, twips_y()); });
   resume([&] { r_.laenge = to_int16(divide(r_.laenge, twips_y())); });
@@ -113,17 +87,6 @@ void StandingHistogram::draw_count_axis() {
   }
 }
 
-void StandingHistogram::draw_classes() {
-  const double s = r_.breite / r_.stat_resol;
-  for (int b = 1; b <= classes(); ++b) {
-    if (const double height = histCount(b); height > 0)
-      bar((b - 1) * s + r_.left, y_of(height / wafer_.maxHauf), s * b + r_.left, base_line());
-    draw_class_ticks((b - 1) * s, s * b);
-  }
-  draw_class_ticks(Int(r_.stat_resol) * s, r_.breite);
-  q_ = classes() + 1;
-}
-
 void StandingHistogram::draw_class_ticks(double left_side, double right_side) {
   if (r_.on_page) {
     const double base = r_.top + r_.hoehe;
@@ -137,13 +100,11 @@ void StandingHistogram::draw_class_ticks(double left_side, double right_side) {
   }
 }
 
-void StandingHistogram::draw_sigma_marks() {
-  resume([&] { Plot_.DrawWidth(2); });
+void StandingHistogram::set_mark_looks() {
   resume([&] { histPic_.CurrentY(Plot_.height() + 30); });
   resume([&] { histPic_.ForeColor(red); });
   if (!r_.on_page) resume([&] { histPic_.Font({"MS Sans Serif", 8}); });
   resume([&] { histPic_.ForeColor(to_color(wafer_.ColS1)); });
-  for (int k = -3; k <= 3; ++k) draw_sigma_mark(k);
 }
 
 void StandingHistogram::draw_sigma_mark(int k) {
@@ -176,25 +137,7 @@ void StandingHistogram::write_below(double px, const std::string& text) {
   resume([&] { histPic_.Print(text); });
 }
 
-void StandingHistogram::draw_curve() {
-  resume([&] { histPic_.ForeColor(blue); });
-  resume([&] { Plot_.DrawWidth(on_printer() ? 4 : 2); });
-  double f0 = 0;
-  resume([&] { f0 = curve(classBase_); });
-  for (q_ = 1; q_ <= r_.breite; ++q_) {
-    const int p = q_;
-    resume([&] {
-      const double f1 = curve(divide(wafer_.maximal - classBase_, r_.breite) * p + classBase_);
-      if (f0 > 1 || f1 > 1) return;
-      Plot_.Line(line_flags, p + r_.left - 1, y_of(f0), p + r_.left, y_of(f1), to_color(wafer_.ColS1));
-      f0 = f1;
-    });
-  }
-  if (!r_.on_page) resume([&] { Plot_.Refresh(); });
-  resume([&] { Plot_.DrawWidth(1); });
-}
-
-void StandingHistogram::draw_class_labels() {
+void StandingHistogram::draw_axis_labels() {
   const double width = r_.on_page ? r_.breite : 0;
   double left = 0, span = 0, top = 0;
   resume([&] { left = r_.on_page ? r_.left : Plot_.left(); });
@@ -223,7 +166,12 @@ void StandingHistogram::label(double centre, double top, const std::string& text
   resume([&] { histPic_.Print(text); });
 }
 
-void StandingHistogram::draw_limits(double low, double high) {
+void StandingHistogram::draw_limits() {
+  if (wafer_.vLcl != wafer_.vUcl) draw_limit_pair(wafer_.vLcl, wafer_.vUcl);
+  if (control_limits().ShowCL) draw_limit_pair(control_limits().ClLow, control_limits().ClHigh);
+}
+
+void StandingHistogram::draw_limit_pair(double low, double high) {
   resume([&] { histPic_.ForeColor(dark_blue); });
   resume([&] { Plot_.DrawWidth(on_printer() ? 6 : 4); });
   draw_limit(low, "LCL");

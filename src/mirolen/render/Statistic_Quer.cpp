@@ -9,7 +9,7 @@
 namespace mirolen {
 namespace {
 
-constexpr Color red = 0x0000FF, blue = 0xFF0000, dark_blue = 0x800000;
+constexpr Color dark_blue = 0x800000;
 
 /// A value in a format that grows leading zeros while the text reads as zero; 0 shows the format itself.
 std::string format_scaled(double value, std::string fmt) {
@@ -25,32 +25,31 @@ std::string format_scaled(double value, std::string fmt) {
 }
 
 /// The histogram turned by a quarter: classes run upward along breite, counts across along hoehe.
-class LyingHistogram : HistogramPainter {
+class LyingHistogram : public HistogramPainter {
  public:
   LyingHistogram(wafer& wafer, const HistogramRequest& request, bool from_right, double Pi)
       : HistogramPainter(wafer, request, Pi), from_right_(from_right) {}
 
-  void draw();
-
  private:
+  void prepare_lengths() override;
   void fall_back() override;
+  void set_orientation() override;
   double class_of(double value) const override;
-  void exchange_axes();
-  void set_orientation();
-  void draw_count_axis();
-  void draw_classes();
-  void draw_sigma_marks();
-  void draw_sigma_mark(int k);
-  void draw_curve();
-  void draw_end_labels();
+  SurfacePoint point(double along, double fraction) const override { return {x_of(fraction), y_of(along)}; }
+  void draw_count_axis() override;
+  void draw_class_ticks(double, double) override {}  // the class axis has none
+  void set_mark_looks() override;
+  void draw_sigma_mark(int k) override;
+  void draw_axis_labels() override;
+  void draw_limits() override;
+
   void draw_limit(double limit, const char* name);
   void write_beside(double py, const std::string& text, const char* measured);
   double clamped(double x) const;
   double x_of(double fraction) const {
     return barBase_ + r_.left - barSign_ * (r_.hoehe - r_.hoehe * fraction);
   }
-  double base_line() const { return barBase_ + r_.left - barSign_ * r_.hoehe; }
-  double y_of(double along_classes) const { return r_.top + r_.breite - along_classes; }
+  double y_of(double along) const { return r_.top + r_.breite - along; }
 
   bool from_right_;
 };
@@ -69,7 +68,7 @@ double LyingHistogram::class_of(double value) const {
   return to_int16(inner_class(value));
 }
 
-void LyingHistogram::exchange_axes() {
+void LyingHistogram::prepare_lengths() {
   std::swap(r_.breite, r_.hoehe);
   if (!r_.on_page) return;
   resume([&] { r_.x0 = divide(r_.x0, twips_x()); });
@@ -86,34 +85,6 @@ void LyingHistogram::set_orientation() {
   barSign_ = from_right_ ? -1 : 1;
 }
 
-void LyingHistogram::draw() {
-  exchange_axes();
-  resume([&] { Plot_.FillColor(QBColor(2)); });
-  resume([&] { Plot_.DrawWidth(1); });
-  set_orientation();
-  resume([&] { set_class_base(); });
-  count();
-  fit_curve();
-  draw_count_axis();
-  if (has_classes()) draw_classes();
-  if (!r_.on_page) {
-    resume([&] { histPic_.Refresh(); });
-    resume([&] { Plot_.Refresh(); });
-  }
-  if (has_curve()) {
-    draw_sigma_marks();
-    draw_curve();
-  }
-  draw_end_labels();
-  if (const ControlLimits& limits = control_limits(); limits.ShowCL) {
-    resume([&] { histPic_.ForeColor(blue); });
-    draw_limit(limits.ClLow, "LCL");
-    draw_limit(limits.ClHigh, "UCL");
-  }
-  if (!r_.on_page) resume([&] { Plot_.Refresh(); });
-  resume([&] { Plot_.DrawWidth(1); });
-}
-
 void LyingHistogram::draw_count_axis() {
   const double x0 = r_.on_page ? r_.left : r_.x0, y0 = r_.on_page ? r_.top : r_.y0;
   for (std::int32_t m = 1; m <= wafer_.maxHauf; ++m) {
@@ -122,28 +93,19 @@ void LyingHistogram::draw_count_axis() {
   }
 }
 
-void LyingHistogram::draw_classes() {
-  const double s = r_.breite / r_.stat_resol;
-  for (int b = 1; b <= classes(); ++b)
-    if (const double height = histCount(b); height > 0)
-      bar(x_of(height / wafer_.maxHauf), y_of((b - 1) * s), base_line(), y_of(b * s));
-}
-
-void LyingHistogram::draw_sigma_marks() {
-  resume([&] { Plot_.DrawWidth(2); });
+void LyingHistogram::set_mark_looks() {
   resume([&] { histPic_.ForeColor(red); });
   FontSpec symbol;
   resume([&] { symbol = histPic_.Font(); });
   symbol.Name = "Symbol";
   resume([&] { histPic_.Font(symbol); });
   resume([&] { histPic_.ForeColor(to_color(wafer_.ColS1)); });
-  for (int k = -3; k <= 3; ++k) draw_sigma_mark(k);
 }
 
 void LyingHistogram::draw_sigma_mark(int k) {
   const double value = k * wafer_.StdDev + wafer_.mean;
   double py = 0;
-  resume([&] { py = along(value, r_.breite); });
+  resume([&] { py = along_classes(value); });
   if (!(py > 0 && py < r_.breite)) return;
   const double end = barBase_ + r_.left - (r_.hoehe + 5) * barSign_;
   resume([&] {
@@ -181,24 +143,7 @@ void LyingHistogram::write_beside(double py, const std::string& text, const char
   resume([&] { histPic_.Print(text); });
 }
 
-void LyingHistogram::draw_curve() {
-  resume([&] { histPic_.ForeColor(blue); });
-  resume([&] { Plot_.DrawWidth(on_printer() ? 4 : 2); });
-  double f0 = 0;
-  resume([&] { f0 = curve(classBase_); });
-  for (int p = 1; p <= r_.breite; ++p) {
-    resume([&] {
-      const double f1 = curve(divide(wafer_.maximal - classBase_, r_.breite) * p + classBase_);
-      if (f0 > 1 || f1 > 1) return;
-      Plot_.Line(line_flags, x_of(f0), y_of(p - 1), x_of(f1), y_of(p), to_color(wafer_.ColS1));
-      f0 = f1;
-    });
-  }
-  if (!r_.on_page) resume([&] { Plot_.Refresh(); });
-  resume([&] { Plot_.DrawWidth(1); });
-}
-
-void LyingHistogram::draw_end_labels() {
+void LyingHistogram::draw_axis_labels() {
   const double most = wafer_.maxHauf;
   double left = 0, right = 0, top = 0;
   resume([&] {
@@ -214,9 +159,17 @@ void LyingHistogram::draw_end_labels() {
   resume([&] { histPic_.Print(format_scaled(most, "0")); });
 }
 
+void LyingHistogram::draw_limits() {
+  const ControlLimits& limits = control_limits();
+  if (!limits.ShowCL) return;
+  resume([&] { histPic_.ForeColor(blue); });
+  draw_limit(limits.ClLow, "LCL");
+  draw_limit(limits.ClHigh, "UCL");
+}
+
 void LyingHistogram::draw_limit(double limit, const char* name) {
   double py = 0;
-  resume([&] { py = along(limit, r_.breite); });
+  resume([&] { py = along_classes(limit); });
   line(Plot_, r_.left + r_.hoehe, y_of(py), r_.left, y_of(py), dark_blue);
   write_beside(py, name, "LCL");
 }
