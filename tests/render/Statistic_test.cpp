@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <limits>
 
 #include "plain_histogram.h"
 #include "sample_wafers.h"
@@ -180,6 +181,17 @@ TEST(Statistic, LabelsTheClassBoundariesUnderTheChart) {
   EXPECT_THAT(all[4], testing::StartsWith("Print 1.0000 at 112 80 "));
   EXPECT_THAT(all[6], testing::StartsWith("Print 3.0000 at 312 80 "));
   EXPECT_THAT(all[7], testing::StartsWith("Print 4.0000 at 412 80 "));
+}
+
+TEST(Statistic, DecidesAboutInnerLabelsByTheBoundaryBehindTheLastClass) {
+  // 8.909 to 9.9 in four classes: 10.1477 takes 42 units, the other labels 36.
+  wafer source = wafer_with(with_values({9.9}));
+  source.maxHauf = 0;
+  ChartCanvases canvases;
+  canvases.place = {0, 0, 4 * 40, 60};
+  EXPECT_EQ(DrawnChart(source, canvases, {}).texts().size(), 2u);
+  canvases.place = {0, 0, 4 * 43, 60};
+  EXPECT_EQ(DrawnChart(source, canvases, {}).texts().size(), 5u);
 }
 
 TEST(Statistic, LabelsOnlyTheEndsOfALyingChart) {
@@ -399,6 +411,58 @@ TEST(Statistic, BridgesTheStretchAboveTheChartWithOnePiece) {
   double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
   ASSERT_EQ(std::sscanf(bridge.c_str(), "Line 6 %lf %lf %lf %lf", &x1, &y1, &x2, &y2), 4);
   EXPECT_NEAR(y1, y2, 1e-9);  // 41 and 59 stand equally far from the peak
+}
+
+/// A canvas on which one line fails.
+class CanvasWithAFailingLine : public RecordingCanvas {
+ public:
+  explicit CanvasWithAFailingLine(int failing) : failing_(failing) {}
+  void Line(std::int16_t flags, double x1, double y1, double x2, double y2,
+            std::optional<Color> color) override {
+    if (failing_-- == 0) throw CanvasError("Line");
+    RecordingCanvas::Line(flags, x1, y1, x2, y2, color);
+  }
+
+ private:
+  int failing_;
+};
+
+TEST(Statistic, GoesOnBehindAPieceOfTheCurveThatFails) {
+  wafer source = steps();
+  source.mean = 2;
+  source.StdDev = 1;
+  // Three bars with their outlines and three marks come first; then the pieces to 1 and to 2.
+  CanvasWithAFailingLine plot(3 * 2 + 3 + 2 - 1);
+  RecordingCanvas hist;
+  ChartRequest request;
+  draw_chart(source, plot, hist, request);
+  const auto height = [&](int p) {
+    return 12.5 * (1 - source.GaussMax / source.maxHauf * source.Gauss(4.0 / 100 * p));
+  };
+  const Lines lines = plot.log.of("Line");
+  EXPECT_EQ(difference({lines.at(10)}, {line_of("Line", 6, 2, height(2), 3, height(3), QBColor(4))}, 1e-9),
+            "");
+}
+
+TEST(Statistic, SurvivesNumbersThatAreNone) {
+  constexpr double odd[] = {std::numeric_limits<double>::quiet_NaN(),
+                            std::numeric_limits<double>::infinity(),
+                            1e300,
+                            -1e300,
+                            2e9,
+                            -3,
+                            0};
+  for (const std::int16_t type : {1, 2, 3, 4})
+    for (const double number : odd) {
+      ChartRequest request = chart_of_type(type);
+      request.stat_resol = number;
+      EXPECT_THAT(DrawnChart(steps(), {}, request).bars(), IsEmpty()) << number;
+      wafer source = steps();
+      source.maximal = number;
+      const DrawnChart without_scale(source, {}, chart_of_type(type));
+      source.minimal = number;
+      const DrawnChart without_ends(source, {}, chart_of_type(type));
+    }
 }
 
 // ---- The page ----

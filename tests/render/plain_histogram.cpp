@@ -137,6 +137,7 @@ void PlainHistogram::draw() {
   if (w.StdDev != 0) fit_curve();
   draw_count_axis();
   if (w.GetNop() > 3 && maxHauf > 0) draw_bars();
+  q = static_cast<int>(r.stat_resol) + 1;
   if (!page) {
     say(hist, "Refresh", "Refresh");
     say(plot, "Refresh", "Refresh");
@@ -225,7 +226,6 @@ void PlainHistogram::draw_bars() {
     if (!r.lies()) draw_tick_pair((b - 1) * s, s * b);
   }
   if (!r.lies()) draw_tick_pair(std::floor(r.stat_resol) * s, r.breite);
-  q = static_cast<int>(r.stat_resol) + 1;
 }
 
 void PlainHistogram::draw_tick_pair(double left_side, double right_side) {

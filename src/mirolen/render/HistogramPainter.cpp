@@ -34,8 +34,17 @@ void HistogramPainter::set_class_base() {
   classBase_ = wafer_.maximal != low ? low : checked((low < 0 ? 1.1 * low : 0.9 * low) - 0.001);
 }
 
+void HistogramPainter::make_classes() {
+  constexpr std::int32_t most_classes = 1 << 24;
+  const std::int32_t number = to_int32(r_.stat_resol);
+  if (number < 0) throw SubscriptOutOfRange();
+  if (number > most_classes) throw OutOfMemory();
+  counts_.assign(static_cast<std::size_t>(number) + 1, 0);
+  classes_ = number;
+}
+
 void HistogramPainter::count() {
-  if (classes() >= 0) counts_.assign(static_cast<std::size_t>(classes()) + 1, 0);
+  resume([&] { make_classes(); });
   if (!(wafer_.GetNop() > 3)) return;
   wafer_.GaussMax = 1;
   resume([&] { classWidth_ = class_width(); });
@@ -79,7 +88,6 @@ void HistogramPainter::draw_classes() {
     draw_class_ticks((b - 1) * s, s * b);
   }
   draw_class_ticks(Int(r_.stat_resol) * s, r_.breite);
-  q_ = classes() + 1;
 }
 
 void HistogramPainter::draw_curve() {
@@ -87,15 +95,17 @@ void HistogramPainter::draw_curve() {
   resume([&] { Plot_.DrawWidth(on_printer() ? 4 : 2); });
   double f0 = 0;
   resume([&] { f0 = curve(classBase_); });
-  for (q_ = 1; q_ <= r_.breite; ++q_) {
-    const int p = q_;
+  std::int32_t last = 0;
+  resume([&] { last = to_int32(Int(r_.breite)); });
+  double f1 = 0;
+  for (double p = 1; p <= last; ++p) {
+    resume([&] { f1 = curve(divide(wafer_.maximal - classBase_, r_.breite) * p + classBase_); });
+    if (f0 > 1 || f1 > 1) continue;
     resume([&] {
-      const double f1 = curve(divide(wafer_.maximal - classBase_, r_.breite) * p + classBase_);
-      if (f0 > 1 || f1 > 1) return;
       const SurfacePoint from = point(p - 1, f0), to = point(p, f1);
       Plot_.Line(line_flags, from.x, from.y, to.x, to.y, to_color(wafer_.ColS1));
-      f0 = f1;
     });
+    f0 = f1;
   }
   show_bars();
   resume([&] { Plot_.DrawWidth(1); });

@@ -72,7 +72,8 @@ class HistogramPainter {
     return divide((value - classBase_) * r_.breite, wafer_.maximal - classBase_);
   }
   double class_width() const { return divide(wafer_.maximal - classBase_, r_.stat_resol); }
-  int classes() const { return static_cast<int>(round_half_even(r_.stat_resol)); }
+  std::int32_t classes() const { return classes_; }
+  bool has_curve() const { return wafer_.StdDev != 0 && wafer_.maxHauf != 0; }
   bool on_printer() const { return Plot_.kind() == CanvasKind::printer; }
   double twips_x() const { return on_printer() ? Plot_.TwipsPerPixelX() : screen().TwipsPerPixelX; }
   double twips_y() const { return on_printer() ? Plot_.TwipsPerPixelY() : screen().TwipsPerPixelY; }
@@ -89,9 +90,9 @@ class HistogramPainter {
   double Pi_;
   double classBase_ = 0, classWidth_ = 0;
   double barBase_ = 0, barSign_ = 0;
-  int q_ = 0;  // the counter of the last loop, which decides about the inner labels
 
  private:
+  void make_classes();
   void set_class_base();
   void count();
   void fit_curve();
@@ -103,8 +104,8 @@ class HistogramPainter {
   std::int16_t& histCount(double number);
   double gauss_unit(double x) const { return 1 / std::sqrt(Pi_ + Pi_) * std::exp(x * x * -0.5); }
   bool has_classes() const { return wafer_.GetNop() > 3 && wafer_.maxHauf > 0; }
-  bool has_curve() const { return wafer_.StdDev != 0 && wafer_.maxHauf != 0; }
 
+  std::int32_t classes_ = 0;
   std::vector<std::int16_t> counts_;
 };
 

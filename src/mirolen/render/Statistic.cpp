@@ -34,7 +34,8 @@ class StandingHistogram : public HistogramPainter {
   void draw_limit_pair(double low, double high);
   void draw_limit(double limit, const char* name);
   void write_below(double px, const std::string& text);
-  void label(double centre, double top, const std::string& text);
+  void label(double centre, double top, double value);
+  std::string text_of(double value) const;
   double y_of(double fraction) const {
     return barBase_ + r_.top - barSign_ * (r_.hoehe - r_.hoehe * fraction);
   }
@@ -42,6 +43,8 @@ class StandingHistogram : public HistogramPainter {
   bool from_bottom_;
   double markOver_ = 0;
   std::int16_t axisBottom_ = 0, tickLeft_ = 0;
+  std::int16_t decimals_ = 0;  // of the class labels, and their form
+  bool useExp_ = false;
 };
 
 void StandingHistogram::fall_back() {
@@ -138,32 +141,35 @@ void StandingHistogram::write_below(double px, const std::string& text) {
 }
 
 void StandingHistogram::draw_axis_labels() {
-  const double width = r_.on_page ? r_.breite : 0;
   double left = 0, span = 0, top = 0;
   resume([&] { left = r_.on_page ? r_.left : Plot_.left(); });
-  resume([&] { span = r_.on_page ? width : Plot_.width(); });
+  resume([&] { span = r_.on_page ? r_.breite : Plot_.width(); });
   resume([&] { top = r_.on_page ? r_.top + r_.hoehe + 20 : Plot_.height() + 20; });
   const bool narrow = r_.on_page && r_.breite < 2500;
-  bool useExp = false;
-  std::int16_t decimals = StringFormat::DecimalsFor(classBase_, narrow ? 4 : 6, useExp);
-  if (useExp) decimals = narrow ? 2 : 3;
-  const auto text_of = [&](double value) { return StringFormat::FormatField(value, 0, decimals, useExp); };
+  resume([&] { decimals_ = StringFormat::DecimalsFor(classBase_, narrow ? 4 : 6, useExp_); });
+  if (useExp_) decimals_ = narrow ? 2 : 3;
 
   double c = 0, w = 0;
   resume([&] { c = class_width(); });
   resume([&] { w = to_int16(divide(span, r_.stat_resol)); });
-  label(left, top, text_of(classBase_));
+  label(left, top, classBase_);
+  // The first boundary behind the last loop, of the curve's points or of the classes.
+  const double q = has_curve() ? Int(r_.breite) + 1 : classes() + 1;
   resume([&] {
-    if (!(w > histPic_.TextWidth(text_of(c * q_ + classBase_)))) return;
-    for (int q = 1; q <= classes() - 1; ++q) label(left + q * w, top, text_of(c * q + classBase_));
+    if (!(w > histPic_.TextWidth(text_of(c * q + classBase_)))) return;
+    for (std::int32_t b = 1; b <= classes() - 1; ++b) label(left + b * w, top, c * b + classBase_);
   });
-  label(left + span, top, text_of(wafer_.maximal));
+  label(left + span, top, wafer_.maximal);
 }
 
-void StandingHistogram::label(double centre, double top, const std::string& text) {
-  resume([&] { histPic_.CurrentX(centre - histPic_.TextWidth(text) / 2); });
+std::string StandingHistogram::text_of(double value) const {
+  return StringFormat::FormatField(value, 0, decimals_, useExp_);
+}
+
+void StandingHistogram::label(double centre, double top, double value) {
+  resume([&] { histPic_.CurrentX(centre - histPic_.TextWidth(text_of(value)) / 2); });
   resume([&] { histPic_.CurrentY(top); });
-  resume([&] { histPic_.Print(text); });
+  resume([&] { histPic_.Print(text_of(value)); });
 }
 
 void StandingHistogram::draw_limits() {
