@@ -107,6 +107,10 @@ TEST_F(HistogramTest, ANewOneHas10ClassesAtTheBottom) {
             (Names{"TestDiameter", "WaferDiameter", "WaferStyle", "Resolution", "HideLegend", "PlotType"}));
 }
 
+TEST_F(HistogramTest, ItsLabelsAreInTheSymbolFont) {
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(control.lblX(i).Font.get().Name, "Symbol");
+}
+
 TEST_F(HistogramTest, TheBorderIsThatOfTheFrame) {
   place();
   control.Borderstyle(0);

@@ -23,6 +23,7 @@ Histogram::Histogram(Toolkit& toolkit, Container& container) : ControlFrame(tool
   Command1.Move(0, 0, 1935, 420);
   PLOTA.Move(900, 150, 3000, 2000);
   PLOTA.BackColor = QBColor(15);
+  for (int i = 0; i < 2; ++i) lblX(i).Font = FontSpec{"Symbol"};
   copypic.Visible = false;
   control_limits().ShowCL = false;
   realize();
