@@ -619,6 +619,31 @@ TEST_F(LineScanTest, AChangeOfSizeDrawsTheLineOfTheModeAndItsMarks) {
   EXPECT_EQ(marks().size(), 5u);
 }
 
+TEST_F(LineScanTest, AChangeOfSizeDrawsByTheAngleOnlyInItsMode) {
+  plot_square();
+  take_line(-30, -20, 60, 10);
+  control.PlotType(static_cast<PlotTypeEnumLineScan>(3));
+  control.resize_to(9000, 7000);
+  EXPECT_EQ(curve(), curve_by_hand(false, 0, -30, -20, 60, 10));
+}
+
+TEST_F(LineScanTest, AFormWithoutScaleModeDoesNotEndAChangeOfSize) {
+  FormWithoutScaleMode bare;
+  Open<LineScan> on_bare(toolkit, bare);
+  on_bare.InitProperties();
+  on_bare.resize_to(6000, 4000);
+  EXPECT_EQ(on_bare.PlotFrame.Width.get(), 6000);
+  EXPECT_EQ(on_bare.PLOTA.Height.get(), 4000 - 1400 - 1025);
+}
+
+TEST_F(LineScanTest, ThePictureOfTheMarksFollowsTheChart) {
+  place();
+  control.resize_to(9000, 7000);
+  EXPECT_EQ(control.plus.Left.get(), control.PLOTA.Left);
+  EXPECT_EQ(control.plus.Top.get(), control.PLOTA.Top);
+  EXPECT_FALSE(control.plus.Visible);
+}
+
 TEST_F(LineScanTest, WithoutAPlotAChangeOfSizeDrawsTheGridAlone) {
   place();
   control.load(square_of_sites());
@@ -635,6 +660,37 @@ TEST_F(LineScanTest, ClearWipesCurveAndMarks) {
   EXPECT_TRUE(curve().empty());
   EXPECT_FALSE(control.PlotShown);
   EXPECT_EQ(sites_of(control).x.size(), 7u);
+}
+
+TEST_F(LineScanTest, NewDataTakeTheMarksOfTheOldAway) {
+  place();
+  control.ShowSites(true);
+  for (const auto& wipe :
+       std::vector<std::function<void()>>{[&] {
+                                            control.load({{0, 10, 20}, {0, 10, 5}, {1, 2, 3}});
+                                          },
+                                          [&] { control.WaferDiameter(200); }, [&] { control.clear(); }}) {
+    control.load(five_on_two_lines());
+    control.Plot();
+    ASSERT_EQ(marks().size(), 3u);
+    wipe();
+    EXPECT_EQ(marks(), Names{});
+  }
+}
+
+TEST_F(LineScanTest, ABackgroundDrawsTheMiniatureAloneAnew) {
+  plot_square();
+  const auto drawn = lines();
+  control.RotationPointX(20);
+  control.MousePointer(5);
+  control.BackColor(0x445566);
+  EXPECT_EQ(lines(), drawn) << "the point is for the next plot";
+  EXPECT_EQ(control.MousePointer(), 5);
+  Twin twin(control.FNPic, toolkit);
+  double x0 = 33, y0 = 33;
+  control.wafobj.FlatNotchShow(nullptr, twin.canvas, x0, y0, 20, 0, 90);
+  EXPECT_EQ(difference(recording_of(control.FNPic), twin.recording()), "");
+  EXPECT_EQ(control.FNLabel(0).Caption.get(), "Angle :");
 }
 
 TEST_F(LineScanTest, TheFocusGoesToTheButton) {

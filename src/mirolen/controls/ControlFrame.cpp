@@ -174,7 +174,7 @@ void ControlFrame::raise_size(const SurfaceSize& least) {
 
 void ControlFrame::resize_handler() {
   quietly([&] {
-    container_.ScaleMode(twips);
+    set_scale_of_host();
     lay_out();
   });
 }

@@ -122,7 +122,9 @@ class ControlFrame : public UserControl {
   virtual void fill_in_settings() = 0;
   /// The last step of `Plot`.
   virtual void show_plot() = 0;
-  /// The steps of the resize handler; may throw RunTimeError.
+  /// The first step of the resize handler, which changes the host's form; may throw.
+  virtual void set_scale_of_host() { container_.ScaleMode(twips); }
+  /// The other steps of the resize handler; may throw RunTimeError.
   virtual void lay_out() = 0;
   /// Empties the drawing and its snapshot after the data have changed.
   virtual void wipe_drawing() = 0;

@@ -56,6 +56,9 @@ void LineScan::place_children() {
   PLOTA.ScaleMode(twips);
   PLOTA.BackColor = QBColor(15);
   PLOTA.Move(900, 420);
+  plus.Move(0, 0, mark_size, mark_size);
+  plus.Look = Shape::Form::cross;
+  plus.Visible = false;
   for (int i = 0; i < 5; ++i) {
     lblX(i).Move(0, 0, 960, 450);
     lblX(i).Centered = true;
@@ -166,13 +169,17 @@ void LineScan::BackColor(Color v) {
   for (int panel = 0; panel < 2; ++panel) FNLabel(panel).BackColor = v;
   FNPic.BackColor = v;
   Picture1.BackColor = v;
-  if (PlotShown) quietly([&] { RedrawPlot(); });
+  if (PlotShown) quietly([&] { show_outline(); });  // its picture was erased to the new background
   notify("BackColor");
+}
+
+void LineScan::wipe_drawing() {
+  picgrid.hide_all();
+  PLOTA.Cls();
 }
 
 void LineScan::clear() {
   quietly([&] { wipe_drawing(); });
-  picgrid.hide_all();
   PlotShown = false;
   PlotValid = false;
 }
@@ -203,10 +210,14 @@ void LineScan::RedrawPlot() {
     redraw_angle();
 }
 
-void LineScan::redraw_angle() {
+void LineScan::show_outline() {
   double x0 = 33, y0 = 33;
-  wafobj.FlatNotchShow(&FNLabel(0), FNPic, x0, y0, 20, 0, 90);
+  wafobj.FlatNotchShow(&FNLabel(line_mode() ? 1 : 0), line_mode() ? Picture1 : FNPic, x0, y0, 20, 0, 90);
   FNLabel(0).Caption = "Angle :";
+}
+
+void LineScan::redraw_angle() {
+  show_outline();
   // Another text draws by its change; an equal one would not.
   if (number_in(AngleValue.Text()) == angle_) draw_by_angle();
   AngleValue.Text(std::to_string(angle_));
@@ -216,8 +227,7 @@ void LineScan::redraw_line() {
   if (!(wafobj.GetNop() > 0)) return;
   PLOTA.Cls();
   write_labels();
-  double x0 = 33, y0 = 33;
-  wafobj.FlatNotchShow(&FNLabel(1), Picture1, x0, y0, 20, 0, 90);
+  show_outline();
   wafobj.draw_indicator(Line1, Picture2, static_cast<std::int16_t>(plot_type_), angle_, rotation_x_,
                         rotation_y_, start_x_, start_y_, end_x_, end_y_, Picture1);
   draw_curve(false);
@@ -286,13 +296,14 @@ void LineScan::lay_out() {
       FNLabel(panel).Move(ScaleWidth() / 2 - 1500, ScaleHeight() - FNLabel(0).Height);
     btnoptions.Move(ScaleWidth() - btnoptions.Width, FNLabel(0).Top + FNLabel(0).Height - btnoptions.Height);
   }
+  plus.Move(PLOTA.Left, PLOTA.Top);
   place_labels();
   resume([&] {
     PLOTA.forget_background();
     PLOTA.Cls();
   });
   resume([&] { wafobj.D1Plot_AdjustLines(PLOTA, 0, 0, PLOTA.Width, PLOTA.Height); });
-  if (PlotShown) resume([&] { draw_curve(!line_mode()); });
+  if (PlotShown) resume([&] { draw_curve(plot_type_ == PlotTypeEnumLineScan::vbAngle); });
 }
 
 void LineScan::place_labels() {

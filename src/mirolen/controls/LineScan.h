@@ -76,6 +76,7 @@ class LineScan : public ControlFrame {
   Frame PlotFrame{this};
   ControlArray<Label, 0, 5> lblX{&PlotFrame};
   ControlArray<Label, 0, 5> lblY{&PlotFrame};
+  Shape plus{&PlotFrame};  // the picture of a mark, never shown itself
   PictureBox PLOTA{&PlotFrame};
   MarkArray picgrid{&PLOTA};
   ControlArray<Frame, 0, 2> FNLabel{this};
@@ -92,8 +93,12 @@ class LineScan : public ControlFrame {
  protected:
   void fill_in_settings() override {}
   void show_plot() override;
+  /// A form without a scale mode does not end the handler here.
+  void set_scale_of_host() override {
+    quietly([this] { ControlFrame::set_scale_of_host(); });
+  }
   void lay_out() override;
-  void wipe_drawing() override { PLOTA.Cls(); }
+  void wipe_drawing() override;
   void forget_snapshot() override {}
 
  private:
@@ -101,6 +106,7 @@ class LineScan : public ControlFrame {
   void set_point(double& coordinate, std::int16_t v, const char* property);
   void show_panels();
   void RedrawPlot();
+  void show_outline();
   void redraw_angle();
   void redraw_line();
   void draw_by_angle();
