@@ -12,8 +12,9 @@ USES = {
     "render": {"core"},
     "widgets": {"core", "render"},
     "dialogs": {"core", "render", "widgets"},
-    "controls": {"core", "automation", "render", "widgets", "dialogs"},
-    "qt": {"core", "automation", "render", "widgets", "dialogs", "controls"},
+    "print": {"core", "render", "widgets"},
+    "controls": {"core", "automation", "render", "widgets", "dialogs", "print"},
+    "qt": {"core", "automation", "render", "widgets", "dialogs", "print", "controls"},
 }
 BINDINGS = {"qt"}
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]')

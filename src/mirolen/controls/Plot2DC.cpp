@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "mirolen/render/ContourInterval.h"
 #include "mirolen/render/Screen.h"
 #include "mirolen/render/StringFormat.h"
 
@@ -133,18 +134,7 @@ void Plot2DC::fill_in_settings() {
 }
 
 double Plot2DC::distance() const {
-  if (interval_in_percent_ == 0) return interval_;
-  double base = mean();
-  if (base == 0) base = range();
-  if (base == 0) {
-    if (std::abs(mean()) < std::abs(Maximum()))
-      base = Maximum();
-    else if (std::abs(mean()) < std::abs(Minimum()))
-      base = Minimum();
-    else
-      return 1;
-  }
-  return checked(interval_ * 100 / std::abs(base));
+  return interval_in_percent_ == 0 ? interval_ : contour_interval_in_percent(wafobj, range(), interval_);
 }
 
 void Plot2DC::show_interval() {

@@ -203,6 +203,14 @@ class wafer {
                       double& top, std::int16_t ShowDisp);
 
   // ---- Line scan: the cross-section along a chord of the test circle ----
+  struct Chord {
+    double scanStartX = 0, scanStartY = 0, scanEndX = 0, scanEndY = 0;
+  };
+  /// The ends of the scan on the test circle, millimetres: Plotopt 1 the line through (x1, y1) at phi
+  /// degrees, otherwise the line through (x2, y2) and (x3, y3). @throws InvalidArgument for a line that
+  /// misses the circle.
+  Chord scan_chord(std::int16_t Plotopt, std::int16_t phi, double x1, double y1, double x2, double y2,
+                   double x3, double y3) const;
   /// Draws the curve in resol pieces: by D1Angle along the line through (x1, y1) at phi degrees, otherwise
   /// through (x1, y1) and (x2, y2). @throws RunTimeError of the canvas, InvalidArgument for a line that
   /// misses the circle.
@@ -230,9 +238,6 @@ class wafer {
   struct Position {
     double x = 0;
     double y = 0;
-  };
-  struct Chord {
-    double scanStartX = 0, scanStartY = 0, scanEndX = 0, scanEndY = 0;
   };
 
   void store_site(std::int32_t site, double x, double y, double Z);

@@ -9,7 +9,6 @@
 namespace mirolen {
 namespace {
 
-constexpr std::int16_t by_angle = 1;
 constexpr double half_mark = 105;  // half of the width of a mark's picture, in twips
 
 /// The chart on its canvas: its bottom left corner and its size.
@@ -141,7 +140,7 @@ void wafer::D1Plot_MarkSites(PlotCanvas& Plot, SiteMarks* picgrid, std::int16_t 
 void wafer::D1Plot_Show_lblXY(const AxisLabels& lblX, const AxisLabels& lblY, std::int16_t Plotopt,
                               std::int16_t phi, double x1, double y1, double x2, double y2, double x3,
                               double y3) const {
-  const Chord line = Plotopt == by_angle ? chord_from_angle(x1, y1, phi) : chord_from_line(x2, y2, x3, y3);
+  const Chord line = scan_chord(Plotopt, phi, x1, y1, x2, y2, x3, y3);
   const double middle = (Low + maximal) / 2;
   const std::array values{Low, (middle + Low) / 2, middle, (middle + maximal) / 2, maximal};
   for (std::size_t k = 0; k < values.size(); ++k) lblY[k]->caption(scan_label(values[k]));

@@ -17,10 +17,10 @@ void PlotArea::clear() {
 
 void PlotArea::locate() {
   if (in_twips()) {
-    resume([&] { left = edge(divide(page_.left, twips_x())); });
-    resume([&] { width = edge(divide(page_.width, twips_x())); });
-    resume([&] { top = edge(divide(page_.top, twips_y())); });
-    resume([&] { height = height_edge(divide(page_.height, twips_y())); });
+    resume([&] { left = edge(divide(page_.left, twips_x(canvas_))); });
+    resume([&] { width = edge(divide(page_.width, twips_x(canvas_))); });
+    resume([&] { top = edge(divide(page_.top, twips_y(canvas_))); });
+    resume([&] { height = height_edge(divide(page_.height, twips_y(canvas_))); });
   } else {
     resume([&] { left = edge(canvas_.ScaleLeft()); });
     resume([&] { width = edge(canvas_.ScaleWidth()); });
@@ -41,14 +41,6 @@ void PlotArea::fall_back() {
   keep_if_too_large(width, [&] { return edge(page_.width / fallback_twips_per_pixel); });
   keep_if_too_large(top, [&] { return edge(page_.top / fallback_twips_per_pixel); });
   keep_if_too_large(height, [&] { return height_edge(page_.height / fallback_twips_per_pixel); });
-}
-
-double PlotArea::twips_x() const {
-  return canvas_.kind() == CanvasKind::printer ? canvas_.TwipsPerPixelX() : screen().TwipsPerPixelX;
-}
-
-double PlotArea::twips_y() const {
-  return canvas_.kind() == CanvasKind::printer ? canvas_.TwipsPerPixelY() : screen().TwipsPerPixelY;
 }
 
 }  // namespace mirolen

@@ -39,8 +39,6 @@ class PlotArea {
 
   void fall_back();
   bool in_twips() const { return on_page_ || canvas_.kind() == CanvasKind::printer; }
-  double twips_x() const;
-  double twips_y() const;
   double edge(double value) const { return rounding_ == AreaRounding::all ? to_int16(value) : value; }
   double height_edge(double value) const { return rounding_ == AreaRounding::none ? value : to_int16(value); }
 

@@ -1,10 +1,20 @@
 #include "mirolen/render/Screen.h"
 
+#include "mirolen/render/PlotCanvas.h"
+
 namespace mirolen {
 
 Screen& screen() {
   static Screen the_screen;
   return the_screen;
+}
+
+double twips_x(const PlotCanvas& canvas) {
+  return canvas.kind() == CanvasKind::printer ? canvas.TwipsPerPixelX() : screen().TwipsPerPixelX;
+}
+
+double twips_y(const PlotCanvas& canvas) {
+  return canvas.kind() == CanvasKind::printer ? canvas.TwipsPerPixelY() : screen().TwipsPerPixelY;
 }
 
 }  // namespace mirolen

@@ -5,6 +5,8 @@
 
 namespace mirolen {
 
+class PlotCanvas;
+
 /// What the renderers, which know no toolkit, need of the screen. The toolkit sets it, once for all controls.
 struct Screen {
   /// Twips of a pixel, for a page target that is no printer.
@@ -14,5 +16,9 @@ struct Screen {
   std::function<void(const std::string& text, const std::string& title)> message;
 };
 Screen& screen();
+
+/// Twips of a pixel by which a page's lengths are counted: a printer's own, otherwise those of the screen.
+double twips_x(const PlotCanvas& canvas);
+double twips_y(const PlotCanvas& canvas);
 
 }  // namespace mirolen

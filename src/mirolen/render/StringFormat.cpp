@@ -212,4 +212,12 @@ std::string FormatField(double value, std::int16_t width, std::int16_t decimals,
   return localized(text);
 }
 
+std::string label_text(double value) {
+  if (value == 0) return format_number(0, "0.0");
+  const double size = std::abs(value);
+  const char* format = size < 1 ? "0.0######" : size <= 10000 ? "0.0###" : "0.0#";
+  const bool plain = size >= 1e-7 && size <= 100000;
+  return format_number(value, plain ? format : "0.###E+#0");
+}
+
 }  // namespace mirolen::StringFormat

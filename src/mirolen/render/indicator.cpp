@@ -55,9 +55,7 @@ void wafer::draw_indicator(IndicatorLine& Iline, IndicatorMark& plus, std::int16
     WaferOrigRad = WafDiam / 2;
   }
   const Miniature mini_wafer(WafDiam);
-  const auto chord = [&] {
-    return Plotopt == by_angle ? chord_from_angle(x1, y1, phi) : chord_from_line(x2, y2, x3, y3);
-  };
+  const auto chord = [&] { return scan_chord(Plotopt, phi, x1, y1, x2, y2, x3, y3); };
 
   const Chord line = chord();
   const double S = mini_wafer.scale(Plot.ScaleWidth(), Plot.ScaleHeight());
@@ -76,6 +74,11 @@ void wafer::draw_indicator(IndicatorLine& Iline, IndicatorMark& plus, std::int16
   const double py = to_int16(Plot.top() + Plot.height() / 2 - wider * beyond.scanStartY * mini_wafer.shrink);
   plus.move_to(px - plus.width() / 2, py - plus.height() / 2);
   plus.set_visible(true);
+}
+
+wafer::Chord wafer::scan_chord(std::int16_t Plotopt, std::int16_t phi, double x1, double y1, double x2,
+                               double y2, double x3, double y3) const {
+  return Plotopt == by_angle ? chord_from_angle(x1, y1, phi) : chord_from_line(x2, y2, x3, y3);
 }
 
 wafer::Chord wafer::chord_from_line(double x1, double y1, double x2, double y2) const {

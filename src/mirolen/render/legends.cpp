@@ -89,12 +89,6 @@ void wafer::scale_sigma(const LegendBoxes& scalCol, const LegendLabels& scallab,
   }
 }
 
-std::string wafer::FormatLbl(double dummy) const {
-  if (dummy == 0) return StringFormat::format_number(0, "0.0");
-  const double size = std::abs(dummy);
-  const char* format = size < 1 ? "0.0######" : size <= 10000 ? "0.0###" : "0.0#";
-  const bool plain = size >= 1e-7 && size <= 100000;
-  return StringFormat::format_number(dummy, plain ? format : "0.###E+#0");
-}
+std::string wafer::FormatLbl(double dummy) const { return StringFormat::label_text(dummy); }
 
 }  // namespace mirolen

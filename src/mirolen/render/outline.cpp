@@ -3,29 +3,13 @@
 
 #include "mirolen/core/wafer.h"
 #include "mirolen/render/Companions.h"
+#include "mirolen/render/InclinedCircle.h"
 #include "mirolen/render/PlotCanvas.h"
 
 namespace mirolen {
 namespace {
 
 constexpr double notch = 1.0;
-
-/// The inclined outline: points by angle (degrees, 0 at the bottom, turning toward +x) and radius.
-class InclinedCircle {
- public:
-  InclinedCircle(double x0, double y0, double aspect, double Pi)
-      : x0_(x0), y0_(y0), aspect_(aspect), Pi_(Pi) {}
-
-  SurfacePoint operator()(double angle, double radius) const {
-    const double a = angle * Pi_ / 180;
-    return {x0_ + radius * std::sin(a), y0_ + radius * aspect_ * std::cos(a)};
-  }
-
- private:
-  double x0_, y0_, aspect_, Pi_;
-};
-
-PixelPoint rounded(SurfacePoint point) { return {to_int32(point.x), to_int32(point.y)}; }
 
 void draw_line(PlotCanvas& canvas, SurfacePoint from, SurfacePoint to, std::optional<Color> color = {}) {
   canvas.Line(line_flags, from.x, from.y, to.x, to.y, color);

@@ -1,0 +1,74 @@
+#include <algorithm>
+
+#include "mirolen/print/PrintWafer.h"
+#include "mirolen/print/target.h"
+#include "mirolen/render/ContourInterval.h"
+#include "mirolen/render/StringFormat.h"
+
+namespace mirolen {
+namespace {
+
+constexpr std::int16_t on_page = 1;
+constexpr double from_above = 90;
+constexpr double text_width = 1200;
+
+std::string interval_text(double Interval, const std::string& suffix) {
+  return "Interval: " + StringFormat::plain_text(Interval) + suffix;
+}
+
+std::string suffix_of(bool percent, const std::string& unit) { return percent ? " %" : " " + unit; }
+
+/// The spacing in percent of an interval in the unit. @throws DivisionByZero for a mean of 0.
+double percent_of_mean(const wafer& wafer, double Interval) { return divide(Interval * 100, wafer.mean); }
+
+}  // namespace
+
+void PrintWafer::Print_Contour(wafer& wafer, double left, double top, double width, double height,
+                               double Interval, bool IntervalInPercent, const std::string& MeasurementUnit,
+                               std::int16_t marksites, std::int16_t Resolution, std::int16_t PlotColored,
+                               const std::string& caption, bool framed) {
+  PlotCanvas& target = print::canvas_of(PrinterObj);
+  ResetPrinterObj();
+  if (framed) DrawFrame(caption, left, top, width, height);
+  const double yb = top + height - 1555, xb = left + width - 1215;
+  DrawFlatNotchBox(xb, yb + 360, wafer.flat_ratio, 0, from_above);
+  const double p = IntervalInPercent ? Interval : percent_of_mean(wafer, Interval);
+  std::string text = interval_text(Interval, suffix_of(IntervalInPercent, MeasurementUnit));
+  DrawLeftText(text, xb, yb, text_width, 0);
+
+  const double t = top + target.TextHeight("0");
+  const double w = width - 1215;
+  const double size = std::min(w, height) * 0.9;
+  const double x0 = left + (w - size) / 2, y0 = t + (height - size) / 2;
+  wafer.D2Contour(target, to_int16(size / 2), p, marksites, Resolution, PlotColored, x0, y0, size, size,
+                  on_page);
+  ResetPrinterObj();
+}
+
+void PrintWafer::Print_Contour_THN(wafer& wafer, double left, double top, double width, double height,
+                                   double Interval, bool IntervalInPercent, std::int16_t marksites,
+                                   std::int16_t Resolution, std::int16_t PlotColored,
+                                   const std::string& caption, std::string& text, bool framed) {
+  PlotCanvas& target = print::canvas_of(PrinterObj);
+  ResetPrinterObj();
+  const double h = target.TextHeight("0");
+  const double size = framed ? std::min(width, height - 3 * h) * 0.9 : std::min(width, height);
+  const double p = IntervalInPercent ? contour_interval_in_percent(wafer, wafer.range, Interval) : Interval;
+  wafer.D2Contour(target, to_int16(size / 2), p, marksites, Resolution, PlotColored, left, top, size, size,
+                  on_page);
+  ResetPrinterObj();
+  if (framed) {
+    DrawLeftText(text, left, top + 3 * h / 2 + size + h / 2, size, 0);
+    DrawFrame(caption, left, top, width, height);
+  }
+  ResetPrinterObj();
+}
+
+void PrintWafer::Print_Contour_Legend(const wafer& wafer, double left, double top, double Interval,
+                                      bool percent, const std::string& unit) {
+  if (!percent) percent_of_mean(wafer, Interval);  // not shown, but it fails where the plot would
+  std::string text = interval_text(Interval, suffix_of(percent, unit));
+  DrawLeftText(text, left, top, text_width, 0);
+}
+
+}  // namespace mirolen

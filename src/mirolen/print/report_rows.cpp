@@ -1,0 +1,67 @@
+#include "mirolen/print/report_rows.h"
+
+#include <cmath>
+
+#include "mirolen/print/text_writers.h"
+#include "mirolen/render/StringFormat.h"
+
+namespace mirolen::print {
+namespace {
+
+constexpr double notch = 1;
+
+std::string percent(double value) {
+  std::string format = "0.00";
+  return format_non_zero(value, format) + " %";
+}
+
+/// The spread by the sum of the extremes; 0 where these cancel out.
+double hi_lo(const wafer& wafer) {
+  const double sum = wafer.mini + wafer.maxi;
+  return sum == 0 ? 0 : std::abs(divide(wafer.maxi - wafer.mini, sum)) * 100;
+}
+
+std::optional<std::string> relative_deviation(const wafer& wafer) {
+  if (wafer.mean > 0) return percent(std::abs(divide(wafer.StdDev, wafer.mean)) * 100);
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::string first_15(const std::string& text) {
+  std::string first = text;
+  std::string rest = text;
+  for (int character = 0; character < 15 && !rest.empty(); ++character) lose_first(rest);
+  first.resize(text.size() - rest.size());
+  return first;
+}
+
+ReportRows statistics_rows(const wafer& wafer, const NumberText& number) {
+  return {{360, "Mean:", number(wafer.mean)},
+          {600, "Maximum:", number(wafer.maxi)},
+          {840, "Minimum:", number(wafer.mini)},
+          {1080, "Std. Dev:", number(wafer.StdDev)},
+          {1320, std::nullopt, relative_deviation(wafer)},
+          {1560, "Range:", number(wafer.maxi - wafer.mini)},
+          {1800, "Hi/Lo Var:", percent(hi_lo(wafer))},
+          {2040, "Unit:", first_15(wafer.Meas_unit)}};
+}
+
+ReportRows size_rows(const wafer& wafer, const NumberText& diameter) {
+  return {{360, "Wafer Diam:", diameter(wafer.WafDiam) + " mm"},
+          {600, "Test Diam:", diameter(wafer.test_diam) + " mm"},
+          {840, "No. Sites:", StringFormat::plain_text(wafer.GetNop())},
+          {1080, "Style:", wafer.flat_ratio == notch ? "Notch" : "Flat"}};
+}
+
+ReportRows remarks_rows(const wafer& wafer) {
+  return {{360, "Operator ID:", first_15(wafer.Operator)},
+          {600, "FAB Name:", first_15(wafer.FAB)},
+          {840, "Equip Info:", first_15(wafer.equip)},
+          {1080, "Wafer ID:", first_15(wafer.wafer)},
+          {1320, "Lot:", first_15(wafer.lot)},
+          {1560, "Meas. Equip:", first_15(wafer.meq)},
+          {1800, "Special:", first_15(wafer.Special)}};
+}
+
+}  // namespace mirolen::print

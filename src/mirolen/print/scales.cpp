@@ -1,0 +1,110 @@
+#include <array>
+
+#include "mirolen/print/PrintWafer.h"
+#include "mirolen/print/target.h"
+#include "mirolen/render/ColorScale.h"
+#include "mirolen/render/Screen.h"
+#include "mirolen/render/StringFormat.h"
+
+namespace mirolen {
+namespace {
+
+constexpr int rows = 10;
+
+/// The boxes of a scale, which touch, in pixels of the page.
+struct ScaleBoxes {
+  double left, top;
+  double pitch, width;
+  SurfaceSize pixel;  // in twips
+
+  /// Turns left and top into pixels and puts the target into its pixels.
+  ScaleBoxes(PlotCanvas& target, double& from_left, double& from_top)
+      : pixel{twips_x(target), twips_y(target)} {
+    left = from_left = divide(from_left, pixel.width);
+    top = from_top = divide(from_top, pixel.height);
+    // The height counts by the pixels' width and the width by their height: no difference where they are
+    // square.
+    pitch = divide(240, pixel.width);
+    width = divide(255, pixel.height);
+    target.ScaleMode(pixels);
+    target.FillStyle(solid_fill);
+  }
+
+  double row_top(int row) const { return top + row * pitch; }
+  double text_top(int row) const { return row_top(row) + (pitch + pitch) / 10; }
+  double text_width() const { return divide(2000, pixel.width); }
+
+  void fill(PlotCanvas& target, int row, double color) const {
+    const std::int32_t x1 = to_int32(left), x2 = to_int32(left + width);
+    const std::int32_t y1 = to_int32(row_top(row)), y2 = to_int32(row_top(row + 1));
+    target.FillColor(to_color(color));
+    target.Polygon(std::array<PixelPoint, 4>{{{x1, y1}, {x2, y1}, {x2, y2}, {x1, y2}}});
+  }
+};
+
+/// How the ends of the bands are written.
+struct BandFormat {
+  std::int16_t digits, decimals;
+  bool useExp = false;
+
+  explicit BandFormat(const ScaleEnds& ends) {
+    const bool negative = ends.low < 0;
+    bool narrow = false;
+    decimals = StringFormat::DecimalsFor(ends.high, negative ? 5 : 6, narrow);
+    StringFormat::DecimalsFor(ends.high, negative ? 9 : 10, useExp);
+    if (useExp) decimals = 2;
+    digits = useExp ? 9 : 6;
+  }
+
+  std::string operator()(double value) const {
+    return StringFormat::FormatField(value, digits, decimals, useExp);
+  }
+};
+
+/// The text of a band; the outer ones of a limited scale are open.
+std::string band_text(const ScaleEnds& ends, int row, const BandFormat& format) {
+  const double step = checked((ends.high - ends.low) / rows);
+  const std::string a = format(ends.high - row * step);
+  const std::string c = format(ends.high - (row + 1) * step);
+  if (ends.limited && row == 0) return " > " + c;
+  if (ends.limited && row == rows - 1) return " < " + a;
+  return c + " - " + a;
+}
+
+}  // namespace
+
+void PrintWafer::DrawColoredScale(const wafer& wafer, double& left, double& top) {
+  PlotCanvas& target = print::canvas_of(PrinterObj);
+  ResetPrinterObj();
+  const ScaleBoxes boxes(target, left, top);
+  const ScaleEnds ends = scale_ends(wafer);
+  const BandFormat format(ends);
+  const std::int16_t text_offset = to_int16(divide(450, boxes.pixel.width));
+  for (int row = 0; row < rows; ++row) {
+    std::string text = band_text(ends, row, format);
+    DrawLeftText(text, boxes.left + text_offset, boxes.text_top(row), boxes.text_width(), 0);
+    boxes.fill(target, row, band_color(wafer, row + 1));
+  }
+  ResetPrinterObj();
+}
+
+void PrintWafer::DrawSigmaScale(double& left, double& top, double sigma, const wafer& wafer) {
+  PlotCanvas& target = print::canvas_of(PrinterObj);
+  ResetPrinterObj();
+  const ScaleBoxes boxes(target, left, top);
+  const std::string range = FormatNonZero(sigma, "0.0");
+  const double text_offset = divide(400, boxes.pixel.width);
+  const auto print_row = [&](int row, const char* relation, double color) {
+    std::string text = relation + range;
+    const double text_left = boxes.left + text_offset;
+    DrawLeftText(text, text_left, boxes.text_top(row), boxes.text_width(), 0);
+    DrawSigmaChar(text_left + target.TextWidth(text) + text_offset / 8, boxes.row_top(row), 0);
+    boxes.fill(target, row, color);
+  };
+  print_row(0, ">   ", wafer.ColS1);
+  print_row(2, "+-  ", wafer.ColS2);
+  print_row(4, "< - ", wafer.ColS3);
+  ResetPrinterObj();
+}
+
+}  // namespace mirolen
