@@ -130,6 +130,15 @@ double ControlFrame::StdDevPercent() const {
   return wafobj.mean <= 0 ? 0 : finite_or_zero(std::abs(wafobj.StdDev / wafobj.mean) * 100);
 }
 
+std::int16_t ControlFrame::PrintWaferStatistic(double left, double top, const std::string& units) {
+  wafobj.Meas_unit = units;
+  return print_block([&](PrintWafer& page) { page.DrawWaferStatistics(wafobj, left, top); });
+}
+
+std::int16_t ControlFrame::PrintWaferSize(double left, double top) {
+  return print_block([&](PrintWafer& page) { page.DrawWaferSize(wafobj, left, top); });
+}
+
 void ControlFrame::WaferDiameter(double v) {
   wafobj.reset();
   quietly([&] { wipe_drawing(); });

@@ -9,6 +9,7 @@
 #include "mirolen/controls/enumerations.h"
 #include "mirolen/core/Array.h"
 #include "mirolen/core/wafer.h"
+#include "mirolen/print/PrintWafer.h"
 #include "mirolen/widgets/widgets.h"
 
 namespace mirolen {
@@ -97,8 +98,22 @@ class ControlFrame : public UserControl {
   std::int32_t hwnd() const;
   std::int32_t hdc() const { return 0; }
 
+  // ---- Printing, at places in twips of the page (1/1440 inch) ----
+  // The host starts and ends the job and its pages, and calls for one piece of a page after the other.
+  // Nothing is printed without data or without a `PrinterObj`. These throw RunTimeError where that fails.
+
   /// What the print members draw on; the host's, and null where the system has no printer.
   std::shared_ptr<PlotCanvas> PrinterObj;
+
+  /// Prints the plot into an area, by DrawFrame in a frame with its caption. The control needs a smallest
+  /// size of its own. @return 0 printed; 2 nothing to print, or on; 1 the control is too small.
+  virtual std::int16_t PrintPlot(double left, double top, double width, double height,
+                                 bool DrawFrame = false) = 0;
+  /// Prints the block of statistics, 2775 twips wide, and keeps units as the unit of the values.
+  /// @return 0 printed; 1 nothing to print, or on.
+  std::int16_t PrintWaferStatistic(double left, double top, const std::string& units);
+  /// Prints the block of the wafer's size. @return as `PrintWaferStatistic`.
+  std::int16_t PrintWaferSize(double left, double top);
 
   /// The settings of a control that is new to its form.
   virtual void InitProperties() = 0;
@@ -134,6 +149,25 @@ class ControlFrame : public UserControl {
   void resize_handler();
   /// Gives the control at least this size, inside its resize handler and without running that again.
   void raise_size(const SurfaceSize& least);
+  /// Whether there is something to print, and something to print on.
+  bool can_print() const { return wafobj.GetNop() > 0 && PrinterObj; }
+  /// Calls print(page) for a plot if the control has at least this size. @return as `PrintPlot`.
+  template <class Print>
+  std::int16_t print_plot(double least_width, double least_height, Print print) {
+    if (!can_print()) return 2;
+    if (ScaleWidth() < least_width || ScaleHeight() < least_height) return 1;
+    PrintWafer page{PrinterObj};
+    print(page);
+    return 0;
+  }
+  /// Calls print(page) for a block. @return as `PrintWaferStatistic`.
+  template <class Print>
+  std::int16_t print_block(Print print) const {
+    if (!can_print()) return 1;
+    PrintWafer page{PrinterObj};
+    print(page);
+    return 0;
+  }
   /// Runs a step whose error the host is not told.
   template <class Step>
   static void quietly(Step step) {

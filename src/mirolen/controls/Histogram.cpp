@@ -180,4 +180,28 @@ void Histogram::place_lines() {
   Line3.set_ends(x, y, x, y + 7);
 }
 
+template <class Print>
+std::int16_t Histogram::print_chart(Print print) {
+  constexpr double least = 100;
+  if (!can_print()) return 1;
+  if (ScaleWidth() < least || ScaleHeight() < least) return 2;
+  PrintWafer page{PrinterObj};
+  print(page);
+  return 0;
+}
+
+std::int16_t Histogram::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
+  return print_chart([&](PrintWafer& page) {
+    page.Print_Histo(static_cast<std::int16_t>(plot_type_), wafobj, left, top, width, height, resolution_, 0,
+                     frmhist.Caption, DrawFrame);
+  });
+}
+
+std::int16_t Histogram::PrintPlot_THN(double left, double top, double width, double height) {
+  return print_chart([&](PrintWafer& page) {
+    page.Print_Histo_THN(static_cast<std::int16_t>(plot_type_), wafobj, left, top, width, height, resolution_,
+                         0, frmhist.Caption);
+  });
+}
+
 }  // namespace mirolen

@@ -44,6 +44,12 @@ class Histogram : public ControlFrame {
   void ShowControlLimit(double LCLs, double UCLs);
   void ResetControlLimit();
 
+  /// As that of all plots, but @return 0 printed; 1 nothing to print, or on; 2 the control is too small.
+  std::int16_t PrintPlot(double left, double top, double width, double height,
+                         bool DrawFrame = false) override;
+  /// The same without a frame, over the whole area.
+  std::int16_t PrintPlot_THN(double left, double top, double width, double height);
+
   void InitProperties() override;
   SurfaceSize smallest_size() const override { return {2100, 2100}; }
 
@@ -68,6 +74,8 @@ class Histogram : public ControlFrame {
   void place_chart();
   void place_lines();
   void RedrawPlot();
+  template <class Print>
+  std::int16_t print_chart(Print print);
   void set_limits(bool set, double low, double high);
 
   PlotTyEnum plot_type_ = PlotTyEnum::vbbottom;

@@ -24,6 +24,11 @@ automation::ClassInfo describe_Histogram() {
       .method("ResetControlLimit", "takes the control limits away", {},
               [](Histogram& c) { c.ResetControlLimit(); });
 
+  tell.method("PrintPlot_THN", "prints the chart over the whole area", {"left", "top", "width", "height"},
+              [](Histogram& c, double left, double top, double width, double height) {
+                return c.PrintPlot_THN(left, top, width, height);
+              });
+
   describe::stored_wafer(tell, "");
   tell.stored("StdBeamColor", Type::int32, static_cast<std::int32_t>(QBColor(2)), "BeamColor")
       .stored("StdGaussCurveColor", Type::int32, static_cast<std::int32_t>(QBColor(4)), "GaussCurveColor")

@@ -315,4 +315,12 @@ void LineScan::place_labels() {
   for (int i = 0; i < 4; ++i, y -= PLOTA.Height / 4) lblY(i).Top = y - lblY(i).Height / 2;
 }
 
+std::int16_t LineScan::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
+  return print_plot(4000, 2850, [&](PrintWafer& page) {
+    page.Print_1DPlot(wafobj, angle_, static_cast<std::int16_t>(plot_type_), rotation_x_, rotation_y_,
+                      start_x_, start_y_, end_x_, end_y_, show_sites_, PlotCaption(), left, top, width,
+                      height, DrawFrame);
+  });
+}
+
 }  // namespace mirolen

@@ -70,6 +70,9 @@ class LineScan : public ControlFrame {
   std::string PlotCaption() const { return PlotFrame.Caption; }
   void PlotCaption(const std::string& v);
 
+  std::int16_t PrintPlot(double left, double top, double width, double height,
+                         bool DrawFrame = false) override;
+
   void InitProperties() override;
   SurfaceSize smallest_size() const override { return {4000, LegendShown ? 2850. : 1770.}; }
 

@@ -186,6 +186,10 @@ Color MapFrame::IntervalColor(int interval) const {
   return color_in(const_cast<MapFrame*>(this)->color_field(interval));
 }
 
+std::int16_t MapFrame::PrintLegend(double& left, double& top, bool DrawFrame) {
+  return print_block([&](PrintWafer& page) { page.DrawColoredLegend(wafobj, left, top, DrawFrame); });
+}
+
 void MapFrame::IntervalColor(int interval, Color v) {
   if (interval < 0 || interval >= intervals()) return;
   color_field(interval) = v;

@@ -21,6 +21,10 @@ class MapFrame : public ControlFrame {
   std::string PlotCaption() const { return Frplot.Caption; }
   void PlotCaption(const std::string& v);
 
+  /// Prints the legend, by DrawFrame in a frame 2775 twips wide. left and top stay, but for the sigma plots,
+  /// where those of an unframed legend come back in pixels. @return as `PrintWaferStatistic`.
+  virtual std::int16_t PrintLegend(double& left, double& top, bool DrawFrame = false);
+
   /// The number of interval colours of this control: ten, or the three of a sigma plot.
   virtual int intervals() const { return 10; }
   /// The colour of interval 0 (top of the scale) and up; beyond intervals() it is black and cannot be set.
@@ -74,6 +78,8 @@ class MapFrame : public ControlFrame {
   }
   /// Makes the legend's frame higher and moves what stands under it, while the control is made.
   void make_room_in_legend(double twips);
+  /// The size that printing a map takes.
+  static constexpr double least_map = 750;
   /// Makes PLOTA and its snapshot, drawn already, a valid or a passing picture.
   void keep_snapshot() { RePlot.Picture = PLOTA.Image(); }
 

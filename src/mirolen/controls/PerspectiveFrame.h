@@ -23,6 +23,9 @@ class PerspectiveFrame : public MapFrame {
   void GridInclination(std::int16_t v);
 
  protected:
+  // The size that printing takes.
+  static constexpr double least_width = 2500, least_height = 1750;
+
   PerspectiveFrame(Toolkit& toolkit, Container& container);
 
   void show_orientation() override;

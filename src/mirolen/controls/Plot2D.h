@@ -9,6 +9,11 @@ class Plot2D : public CellMapFrame {
  public:
   Plot2D(Toolkit& toolkit, Container& container);
 
+  std::int16_t PrintPlot(double left, double top, double width, double height,
+                         bool DrawFrame = false) override;
+  /// Prints the numbers of the sites, framed. @return as `PrintPlot`.
+  std::int16_t PrintGridPlot(double left, double top, double width, double height);
+
   void InitProperties() override;
 
  protected:

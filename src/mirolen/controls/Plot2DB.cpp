@@ -53,4 +53,11 @@ void Plot2DB::draw_view(bool) {
                     GridInclination(), false, 0, 0, 0, 0, 0);
 }
 
+std::int16_t Plot2DB::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
+  return print_plot(least_width, least_height, [&](PrintWafer& page) {
+    page.Print_2DBPlot(wafobj, left, top, width, height, beam_width_, beam_height_, beam_scale_,
+                       GridRotation(), WaferRotation(), GridInclination(), PlotCaption(), DrawFrame);
+  });
+}
+
 }  // namespace mirolen

@@ -18,6 +18,9 @@ class Plot2DB : public PerspectiveFrame {
   /// Height of a bar, millimetres a unit of value; a number that is not finite becomes 1.
   void BeamScale(double v);
 
+  std::int16_t PrintPlot(double left, double top, double width, double height,
+                         bool DrawFrame = false) override;
+
   void InitProperties() override;
 
  protected:

@@ -9,6 +9,7 @@ using automation::Type;
 automation::ClassInfo describe_Plot2DB() {
   auto tell = describe::frame<Plot2DB>("Plot2DB");
   describe::plot_caption(tell);
+  describe::legend_printing(tell);
   describe::interval_colors(tell, 10);
   describe::view(tell);
   tell.property("BeamWidth", "width of a bar, mm", &Plot2DB::BeamWidth, &Plot2DB::BeamWidth)

@@ -154,4 +154,25 @@ void Plot2DC::draw_plot() {
                    0, 0);
 }
 
+std::int16_t Plot2DC::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
+  return print_plot(least_map, least_map, [&](PrintWafer& page) {
+    // Paper and screen show the same curves: the property's 0 says percent.
+    const bool in_percent = interval_in_percent_ == 0;
+    const MessagesThrough messages(toolkit());
+    page.Print_Contour(wafobj, left, top, width, height, interval_, in_percent, measurement_unit_,
+                       static_cast<std::int16_t>(marksites_), static_cast<std::int16_t>(resolution_),
+                       static_cast<std::int16_t>(plot_colored_), PlotCaption(), DrawFrame);
+  });
+}
+
+std::int16_t Plot2DC::PrintPlot_THN(double left, double top, double width, double height, bool DrawFrame) {
+  return print_plot(least_map, least_map, [&](PrintWafer& page) {
+    std::string no_text;
+    const MessagesThrough messages(toolkit());
+    page.Print_Contour_THN(wafobj, left, top, width, height, interval_, interval_in_percent_ != 0,
+                           static_cast<std::int16_t>(marksites_), static_cast<std::int16_t>(resolution_),
+                           static_cast<std::int16_t>(plot_colored_), PlotCaption(), no_text, DrawFrame);
+  });
+}
+
 }  // namespace mirolen

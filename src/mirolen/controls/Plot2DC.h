@@ -39,6 +39,11 @@ class Plot2DC : public MapFrame {
   /// The spacing in percent of the mean, or of what stands in for a mean of 0, that `Interval` comes to.
   double distance() const;
 
+  std::int16_t PrintPlot(double left, double top, double width, double height,
+                         bool DrawFrame = false) override;
+  /// Prints the compact form, without the orientation mark. @return as `PrintPlot`.
+  std::int16_t PrintPlot_THN(double left, double top, double width, double height, bool DrawFrame = false);
+
   void InitProperties() override;
 
   // The legend without rows, and the interval in each of the two legends.

@@ -9,6 +9,7 @@ using automation::Type;
 automation::ClassInfo describe_Plot2DC() {
   auto tell = describe::frame<Plot2DC>("Plot2DC");
   describe::plot_caption(tell);
+  describe::legend_printing(tell);
   describe::interval_colors(tell, 10);
   tell.enumeration({"ExconEnum", {{"Exact", 1}, {"Converted", 2}, {"None", 3}}})
       .enumeration({"ResoEnum", {{"LowQuality", 0}, {"HighQuality", 1}, {"Automatic", 2}}})
@@ -30,6 +31,12 @@ automation::ClassInfo describe_Plot2DC() {
                 &Plot2DC::UpperCurveColor)
       .property("LowerCurveColor", "colour of the curves below it", &Plot2DC::LowerCurveColor,
                 &Plot2DC::LowerCurveColor);
+
+  tell.method(
+      "PrintPlot_THN", "prints the compact form", {"left", "top", "width", "height", "DrawFrame"},
+      [](Plot2DC& c, double left, double top, double width, double height, std::optional<bool> DrawFrame) {
+        return c.PrintPlot_THN(left, top, width, height, DrawFrame.value_or(false));
+      });
 
   describe::stored_wafer(tell, "2DC");
   tell.stored("2DCMeanCurveCol", Type::int32, static_cast<std::int32_t>(default_sigma_colors[1]),

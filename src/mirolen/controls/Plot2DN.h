@@ -10,6 +10,11 @@ class Plot2DN : public MapFrame {
  public:
   Plot2DN(Toolkit& toolkit, Container& container);
 
+  std::int16_t PrintPlot(double left, double top, double width, double height,
+                         bool DrawFrame = false) override;
+  /// Prints the numbers of the sites. @return as `PrintPlot`.
+  std::int16_t PrintGridNumber(double left, double top, double width, double height, bool DrawFrame = false);
+
   void InitProperties() override;
 
  protected:

@@ -9,7 +9,13 @@ using automation::Type;
 automation::ClassInfo describe_Plot2DN() {
   auto tell = describe::frame<Plot2DN>("Plot2DN");
   describe::plot_caption(tell);
+  describe::legend_printing(tell);
   describe::interval_colors(tell, 10);
+  tell.method(
+      "PrintGridNumber", "prints the numbers of the sites", {"left", "top", "width", "height", "DrawFrame"},
+      [](Plot2DN& c, double left, double top, double width, double height, std::optional<bool> DrawFrame) {
+        return c.PrintGridNumber(left, top, width, height, DrawFrame.value_or(false));
+      });
 
   describe::stored_wafer(tell, "2DN");
   describe::stored_colors(tell, "2DNInterCol", default_interval_colors);

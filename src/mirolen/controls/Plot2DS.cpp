@@ -20,4 +20,11 @@ void Plot2DS::draw_plot() {
   wafobj.D2Plot(PLOTA, Resolution(), as_sigma_map, SigmaRange(), marks(), 0, 0, 0, 0, 0);
 }
 
+std::int16_t Plot2DS::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
+  return print_plot(least_map, least_map, [&](PrintWafer& page) {
+    page.Print_2DSigmaPlot(wafobj, left, top, width, height, Resolution(), SigmaRange(), PlotCaption(),
+                           marks(), DrawFrame);
+  });
+}
+
 }  // namespace mirolen

@@ -10,6 +10,9 @@ class Plot2DS : public SigmaLegend<CellMapFrame> {
  public:
   Plot2DS(Toolkit& toolkit, Container& container);
 
+  std::int16_t PrintPlot(double left, double top, double width, double height,
+                         bool DrawFrame = false) override;
+
   void InitProperties() override;
 
  protected:

@@ -9,6 +9,7 @@ using automation::Type;
 automation::ClassInfo describe_Plot2DS() {
   auto tell = describe::frame<Plot2DS>("Plot2DS");
   describe::plot_caption(tell);
+  describe::sigma_legend_printing(tell);
   describe::interval_colors(tell, 3);
   describe::cells(tell);
   describe::sigma_range(tell);

@@ -9,8 +9,12 @@ using automation::Type;
 automation::ClassInfo describe_Plot2D() {
   auto tell = describe::frame<Plot2D>("Plot2D");
   describe::plot_caption(tell);
+  describe::legend_printing(tell);
   describe::interval_colors(tell, 10);
   describe::cells(tell);
+  tell.method("PrintGridPlot", "prints the numbers of the sites, framed", {"left", "top", "width", "height"},
+              [](Plot2D& c, const double& left, const double& top, const double& width,
+                 const double& height) { return c.PrintGridPlot(left, top, width, height); });
 
   describe::stored_wafer(tell, "2D");
   describe::stored_colors(tell, "2DInterCol", default_interval_colors);

@@ -44,4 +44,12 @@ void Plot3D::fill_legend() {
   lbldist.Caption = wafobj.FormatLbl((ends.high - ends.low) / 10);
 }
 
+std::int16_t Plot3D::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
+  return print_plot(least_width, least_height, [&](PrintWafer& page) {
+    page.Print_3DPlot(wafobj, left, top, width, height, static_cast<double>(plot_type_), XResolution(),
+                      YResolution(), PlotScale(), GridRotation(), WaferRotation(), GridInclination(),
+                      PlotCaption(), DrawFrame);
+  });
+}
+
 }  // namespace mirolen

@@ -12,6 +12,9 @@ class Plot3D : public SurfaceFrame {
   PlotTypeEnum PlotType() const { return plot_type_; }
   void PlotType(PlotTypeEnum v);
 
+  std::int16_t PrintPlot(double left, double top, double width, double height,
+                         bool DrawFrame = false) override;
+
   void InitProperties() override;
 
   // The step of the colour scale, under the legend.

@@ -11,6 +11,9 @@ class Plot3DS : public SigmaLegend<SurfaceFrame> {
  public:
   Plot3DS(Toolkit& toolkit, Container& container);
 
+  std::int16_t PrintPlot(double left, double top, double width, double height,
+                         bool DrawFrame = false) override;
+
   void InitProperties() override;
 
  protected:

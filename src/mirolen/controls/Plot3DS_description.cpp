@@ -9,6 +9,7 @@ using automation::Type;
 automation::ClassInfo describe_Plot3DS() {
   auto tell = describe::frame<Plot3DS>("Plot3DS");
   describe::plot_caption(tell);
+  describe::sigma_legend_printing(tell);
   describe::interval_colors(tell, 3);
   describe::view(tell);
   describe::surface(tell);

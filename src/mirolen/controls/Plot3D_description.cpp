@@ -9,6 +9,7 @@ using automation::Type;
 automation::ClassInfo describe_Plot3D() {
   auto tell = describe::frame<Plot3D>("Plot3D");
   describe::plot_caption(tell);
+  describe::legend_printing(tell);
   describe::interval_colors(tell, 10);
   describe::view(tell);
   describe::surface(tell);

@@ -53,6 +53,18 @@ void SigmaLegend<Control>::show_plot() {
 }
 
 template <class Control>
+std::int16_t SigmaLegend<Control>::PrintLegend(double& left, double& top, bool DrawFrame) {
+  return this->print_block(
+      [&](PrintWafer& page) { page.DrawSigmaLegend(this->wafobj, left, top, sigma_range_, DrawFrame); });
+}
+
+template <class Control>
+std::int16_t SigmaLegend<Control>::PrintLegend_No_Frame(double& left, double& top) {
+  return this->print_block(
+      [&](PrintWafer& page) { page.DrawSigmaLegend_No_Frame(this->wafobj, left, top, sigma_range_); });
+}
+
+template <class Control>
 double& SigmaLegend<Control>::color_field(int interval) {
   wafer& data = this->wafobj;
   switch (interval) {

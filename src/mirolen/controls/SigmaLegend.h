@@ -15,6 +15,10 @@ class SigmaLegend : public Control {
 
   int intervals() const override { return 3; }
 
+  std::int16_t PrintLegend(double& left, double& top, bool DrawFrame = false) override;
+  /// Prints the legend without a frame; left and top come back in pixels. @return as `PrintLegend`.
+  std::int16_t PrintLegend_No_Frame(double& left, double& top);
+
   // The signs behind the texts of rows 1, 3 and 5.
   ControlArray<Label, 0, 3> sigma{&this->legende};
   Frame frInt{&this->frleg};

@@ -73,6 +73,38 @@ void wafer_and_window(ClassBuilder<Control>& tell) {
 }
 
 template <class Control>
+void printing(ClassBuilder<Control>& tell) {
+  tell.method("PrintPlot", "prints the plot into an area, in twips of the page",
+              {"left", "top", "width", "height", "DrawFrame"},
+              [](Control& c, double left, double top, double width, double height,
+                 std::optional<bool> DrawFrame) {
+                return c.PrintPlot(left, top, width, height, DrawFrame.value_or(false));
+              })
+      .method("PrintWaferStatistic", "prints the statistics; keeps the unit", {"left", "top", "units"},
+              [](Control& c, const double& left, const double& top, const std::string& units) {
+                return c.PrintWaferStatistic(left, top, units);
+              })
+      .method("PrintWaferSize", "prints the size of the wafer", {"left", "top"},
+              [](Control& c, const double& left, const double& top) { return c.PrintWaferSize(left, top); });
+}
+
+template <class Control>
+void legend_printing(ClassBuilder<Control>& tell) {
+  tell.method("PrintLegend", "prints the legend", {"left", "top", "DrawFrame"},
+              [](Control& c, double& left, double& top, std::optional<bool> DrawFrame) {
+                return c.PrintLegend(left, top, DrawFrame.value_or(false));
+              });
+}
+
+/// The sigma plots print theirs in two ways.
+template <class Control>
+void sigma_legend_printing(ClassBuilder<Control>& tell) {
+  legend_printing(tell);
+  tell.method("PrintLegend_No_Frame", "prints the legend; left and top come back in pixels", {"left", "top"},
+              [](Control& c, double& left, double& top) { return c.PrintLegend_No_Frame(left, top); });
+}
+
+template <class Control>
 void plot_caption(ClassBuilder<Control>& tell) {
   tell.property("PlotCaption", "caption of the plot's frame", &Control::PlotCaption, &Control::PlotCaption);
 }
@@ -132,6 +164,7 @@ ClassBuilder<Control> frame(const char* name) {
   data(tell);
   plotting(tell);
   wafer_and_window(tell);
+  printing(tell);
   events(tell);
   return tell;
 }
