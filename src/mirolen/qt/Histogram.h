@@ -34,6 +34,9 @@ class Histogram : public PlotWidget {
   void setGaussCurveColor(const QColor& v);
 
  public slots:
+  int PrintPlot_THN(double left, double top, double width, double height) {
+    return control().PrintPlot_THN(left, top, width, height);
+  }
   void SetChartDim(double topC, double heightC) { control().SetChartDim(topC, heightC); }
   void Borderstyle(int Bstyle) { control().Borderstyle(short_of(Bstyle)); }
   void ShowControlLimit(double LCLs, double UCLs) { control().ShowControlLimit(LCLs, UCLs); }

@@ -2,12 +2,11 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "mirolen/qt/Picture.h"
+#include "mirolen/qt/painting.h"
 #include "mirolen/qt/pixels.h"
 #include "mirolen/qt/translate.h"
 
@@ -18,42 +17,7 @@ constexpr qint64 frame_of_a_screen = 16;  // ms
 
 constexpr double largest_edge = 32767;  // the painter's limit, in device pixels
 
-/// Far beyond every screen, and well inside what the painter counts with.
-double in_reach(double device) { return std::clamp(device, -1e6, 1e6); }
-
 QRgb rgb_of(Color color) { return qcolor_of(color).rgb(); }
-
-bool is_drawn(const Pen& pen) { return pen.style != Pen::Style::none; }
-
-Qt::PenStyle style_of(Pen::Style style) {
-  using enum Pen::Style;
-  switch (style) {
-    case dash:
-      return Qt::DashLine;
-    case dot:
-      return Qt::DotLine;
-    case dash_dot:
-      return Qt::DashDotLine;
-    case dash_dot_dot:
-      return Qt::DashDotDotLine;
-    case none:
-      return Qt::NoPen;
-    default:
-      return Qt::SolidLine;
-  }
-}
-
-QBrush qbrush(const Brush& brush) {
-  return brush.solid ? QBrush(qcolor_of(brush.color)) : QBrush(Qt::NoBrush);
-}
-
-bool is_upright_box(std::span<const PixelPoint> points) {
-  if (points.size() == 5 && points[4] == points[0]) points = points.first(4);
-  if (points.size() != 4) return false;
-  const PixelPoint a = points[0], b = points[1], c = points[2], d = points[3];
-  return (a.y == b.y && b.x == c.x && c.y == d.y && d.x == a.x) ||
-         (a.x == b.x && b.y == c.y && c.x == d.x && d.y == a.y);
-}
 
 }  // namespace
 
@@ -100,11 +64,6 @@ QPointF ImageSurface::centre_of(SurfacePoint pixel) const {
   return {in_reach((pixel.x + 0.5) * ratio_), in_reach((pixel.y + 0.5) * ratio_)};
 }
 
-QPen ImageSurface::qpen(const Pen& pen) const {
-  const Qt::PenCapStyle cap = pen.style == Pen::Style::solid ? Qt::RoundCap : Qt::FlatCap;
-  return QPen(qcolor_of(pen.color), pen.width * ratio_, style_of(pen.style), cap, Qt::MiterJoin);
-}
-
 void ImageSurface::clear(Color color) { image_.fill(rgb_of(color)); }
 
 void ImageSurface::line(const Pen& pen, SurfacePoint from, SurfacePoint to) {
@@ -113,7 +72,7 @@ void ImageSurface::line(const Pen& pen, SurfacePoint from, SurfacePoint to) {
   if (upright && pen.style == Pen::Style::solid) return upright_line(pen, from, to);
   QPainter painter(&image_);
   painter.setRenderHint(QPainter::Antialiasing, !upright && pen.width == 1);
-  painter.setPen(qpen(pen));
+  painter.setPen(qpen(pen, ratio_));
   painter.drawLine(centre_of(from), centre_of(to));
 }
 
@@ -144,29 +103,23 @@ void ImageSurface::outline_box(const Pen& pen, const SurfaceBox& box) {
 void ImageSurface::ellipse(const Pen& pen, const Brush& brush, SurfacePoint centre, SurfaceSize radii) {
   QPainter painter(&image_);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(qpen(pen));
+  painter.setPen(qpen(pen, ratio_));
   painter.setBrush(qbrush(brush));
   painter.drawEllipse(centre_of(centre), in_reach(radii.width * ratio_), in_reach(radii.height * ratio_));
 }
 
 void ImageSurface::arc(const Pen& pen, SurfacePoint centre, SurfaceSize radii, double start, double end) {
-  constexpr double degrees = 180 / std::numbers::pi;
-  const double turn = std::fmod(end - start, 2 * std::numbers::pi);
   const QPointF middle = centre_of(centre);
   const QPointF reach(in_reach(radii.width * ratio_), in_reach(radii.height * ratio_));
   const QRectF round(middle - reach, middle + reach);
-  QPainterPath path;
-  path.arcMoveTo(round, start * degrees);
-  path.arcTo(round, start * degrees, (turn < 0 ? turn + 2 * std::numbers::pi : turn) * degrees);
-  QPainter(&image_).strokePath(path, qpen(pen));
+  QPainter(&image_).strokePath(arc_path(round, start, end), qpen(pen, ratio_));
 }
 
 void ImageSurface::polygon(const Pen& pen, const Brush& brush, std::span<const PixelPoint> points) {
   if (points.empty()) return;
-  if (!is_drawn(pen) && is_upright_box(points)) {
-    const auto [left, right] = std::minmax(points[0].x, points[2].x);
-    const auto [top, bottom] = std::minmax(points[0].y, points[2].y);
-    const QPoint from(edge(left), edge(top)), beyond(edge(right), edge(bottom));
+  const std::optional<UprightBox> box = is_drawn(pen) ? std::nullopt : upright_box(points);
+  if (box) {
+    const QPoint from(edge(box->from.x), edge(box->from.y)), beyond(edge(box->to.x), edge(box->to.y));
     if (brush.solid) fill_pixels(image_, QRect(from, beyond - QPoint(1, 1)), rgb_of(brush.color));
     return;
   }
@@ -174,7 +127,7 @@ void ImageSurface::polygon(const Pen& pen, const Brush& brush, std::span<const P
   for (const auto& [x, y] : points)
     corners << (is_drawn(pen) ? centre_of({double(x), double(y)}) : QPointF(edge(x), edge(y)));
   QPainter painter(&image_);
-  painter.setPen(qpen(pen));
+  painter.setPen(qpen(pen, ratio_));
   painter.setBrush(qbrush(brush));
   painter.drawPolygon(corners);
 }

@@ -58,7 +58,6 @@ class ImageSurface : public Surface {
   QPointF centre_of(SurfacePoint pixel) const;
   void upright_line(const Pen& pen, SurfacePoint from, SurfacePoint to);
   void outline_box(const Pen& pen, const SurfaceBox& box);
-  QPen qpen(const Pen& pen) const;
 
   SurfaceSize size_;
   double ratio_;

@@ -45,6 +45,11 @@ class MapWidget : public PlotWidget {
   QColor IntervalColor(int interval) const;
   void setIntervalColor(int interval, const QColor& v);
 
+ public slots:
+  int PrintLegend(double left, double top, bool DrawFrame = false) {
+    return map().PrintLegend(left, top, DrawFrame);
+  }
+
  signals:
   void PlotCaptionChanged();
 

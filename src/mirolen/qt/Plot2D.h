@@ -21,6 +21,11 @@ class Plot2D : public CellMapWidget {
   /// The control behind the face, in the size that the face has now.
   mirolen::Plot2D& control() { return frame_as<mirolen::Plot2D>(); }
   const mirolen::Plot2D& control() const { return frame_as<mirolen::Plot2D>(); }
+
+ public slots:
+  int PrintGridPlot(double left, double top, double width, double height) {
+    return control().PrintGridPlot(left, top, width, height);
+  }
 };
 
 }  // namespace mirolen::qt

@@ -59,6 +59,11 @@ class Plot2DC : public MapWidget {
   QColor LowerCurveColor() const;
   void setLowerCurveColor(const QColor& v);
 
+ public slots:
+  int PrintPlot_THN(double left, double top, double width, double height, bool DrawFrame = false) {
+    return control().PrintPlot_THN(left, top, width, height, DrawFrame);
+  }
+
  signals:
   void IntervalChanged();
   void IntervalInPercentChanged();

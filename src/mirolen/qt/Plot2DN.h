@@ -16,6 +16,11 @@ class Plot2DN : public MapWidget {
   /// The control behind the face, in the size that the face has now.
   mirolen::Plot2DN& control() { return frame_as<mirolen::Plot2DN>(); }
   const mirolen::Plot2DN& control() const { return frame_as<mirolen::Plot2DN>(); }
+
+ public slots:
+  int PrintGridNumber(double left, double top, double width, double height, bool DrawFrame = false) {
+    return control().PrintGridNumber(left, top, width, height, DrawFrame);
+  }
 };
 
 }  // namespace mirolen::qt

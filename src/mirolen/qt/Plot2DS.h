@@ -20,6 +20,9 @@ class Plot2DS : public CellMapWidget {
   double SigmaRange() const { return control().SigmaRange(); }
   void setSigmaRange(double v) { control().SigmaRange(v); }
 
+ public slots:
+  int PrintLegend_No_Frame(double left, double top) { return control().PrintLegend_No_Frame(left, top); }
+
  signals:
   void SigmaRangeChanged();
 };

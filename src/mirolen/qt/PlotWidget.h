@@ -30,6 +30,7 @@ class PlotWidget : public QWidget {
   Q_PROPERTY(QColor BackColor READ BackColor WRITE setBackColor NOTIFY BackColorChanged)
   Q_PROPERTY(int MousePointer READ MousePointer WRITE setMousePointer NOTIFY MousePointerChanged)
   Q_PROPERTY(QPixmap MouseIcon READ MouseIcon WRITE setMouseIcon NOTIFY MouseIconChanged)
+  Q_PROPERTY(std::shared_ptr<mirolen::PlotCanvas> PrinterObj READ PrinterObj WRITE setPrinterObj STORED false)
   Q_PROPERTY(double mean READ mean STORED false)
   Q_PROPERTY(double StdDev READ StdDev STORED false)
   Q_PROPERTY(double Maximum READ Maximum STORED false)
@@ -81,6 +82,11 @@ class PlotWidget : public QWidget {
   int hdc() const { return control_->hdc(); }
   int hwnd() const { return control_->hwnd(); }
 
+  /// What the print members draw on: a PrintJob, or any other canvas of the host. A new face has one on the
+  /// default printer of the system.
+  std::shared_ptr<PlotCanvas> PrinterObj() const { return control_->PrinterObj; }
+  void setPrinterObj(std::shared_ptr<PlotCanvas> v) { control_->PrinterObj = std::move(v); }
+
   /// The messages of the control, for a host that wants them elsewhere than in a message box.
   QtToolkit& toolkit() { return toolkit_; }
 
@@ -94,6 +100,15 @@ class PlotWidget : public QWidget {
   void ReleasePlotLimit() { frame().ReleasePlotLimit(); }
   void SetPlotNotVaild() { control_->SetPlotNotVaild(); }
   void InitProperties() { frame().InitProperties(); }
+
+  // Printing throws RunTimeError where the target fails.
+  int PrintPlot(double left, double top, double width, double height, bool DrawFrame = false) {
+    return frame().PrintPlot(left, top, width, height, DrawFrame);
+  }
+  int PrintWaferStatistic(double left, double top, const QString& units) {
+    return frame().PrintWaferStatistic(left, top, units.toStdString());
+  }
+  int PrintWaferSize(double left, double top) { return frame().PrintWaferSize(left, top); }
 
  signals:
   void Click();

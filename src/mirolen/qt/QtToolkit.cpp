@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "mirolen/qt/ImageSurface.h"
+#include "mirolen/qt/PrintJob.h"
 #include "mirolen/qt/peers.h"
 #include "mirolen/qt/translate.h"
 #include "mirolen/widgets/PictureBox.h"
@@ -83,6 +84,8 @@ SurfaceSize QtToolkit::twips_per_pixel() const { return {qt::twips_per_pixel, qt
 Color QtToolkit::resolve(Color color) const {
   return color & system_color_flag ? system_color(face_.palette(), color & ~system_color_flag) : color;
 }
+
+std::shared_ptr<PlotCanvas> QtToolkit::default_printer() { return PrintJob::default_printer(); }
 
 void QtToolkit::change_ratio(Widget& root, double ratio) {
   ratio_ = ratio;

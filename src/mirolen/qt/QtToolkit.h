@@ -26,7 +26,7 @@ class QtToolkit : public Toolkit {
   void message_box(const std::string& text, const std::string& title, MessageIcon icon) override;
   SurfaceSize twips_per_pixel() const override;
   Color resolve(Color color) const override;
-  std::shared_ptr<PlotCanvas> default_printer() override { return nullptr; }
+  std::shared_ptr<PlotCanvas> default_printer() override;
 
   /// Device pixels of a logical pixel, for the pictures of the control.
   double ratio() const { return ratio_; }
