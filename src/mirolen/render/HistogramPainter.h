@@ -75,8 +75,8 @@ class HistogramPainter {
   std::int32_t classes() const { return classes_; }
   bool has_curve() const { return wafer_.StdDev != 0 && wafer_.maxHauf != 0; }
   bool on_printer() const { return Plot_.kind() == CanvasKind::printer; }
-  double twips_x() const { return on_printer() ? Plot_.TwipsPerPixelX() : screen().TwipsPerPixelX; }
-  double twips_y() const { return on_printer() ? Plot_.TwipsPerPixelY() : screen().TwipsPerPixelY; }
+  double twips_x() const { return mirolen::twips_x(Plot_); }
+  double twips_y() const { return mirolen::twips_y(Plot_); }
 
   void line(PlotCanvas& canvas, double x1, double y1, double x2, double y2, Color color) {
     resume([&] { canvas.Line(line_flags, x1, y1, x2, y2, color); });
