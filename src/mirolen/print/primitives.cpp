@@ -35,8 +35,7 @@ void PrintWafer::DrawCenterText(std::string& text, double center, double top, do
   PlotCanvas& target = print::canvas_of(PrinterObj);
   std::int16_t w = print::whole_width(target, text);
   while (w > width) {
-    print::lose_first(text);
-    print::lose_last(text);
+    print::lose_both(text);
     w = print::whole_width(target, text);
   }
   const std::int16_t x = to_int16(center - w / 2.0);

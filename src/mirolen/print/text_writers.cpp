@@ -31,6 +31,13 @@ void lose_last(std::string& text) {
   text.pop_back();
 }
 
+void lose_both(std::string& text) {
+  std::string middle = text;
+  lose_first(middle);
+  lose_last(middle);
+  text = std::move(middle);
+}
+
 void write_left(PlotCanvas& canvas, std::string& text, double left, double top, double width,
                 std::int16_t color) {
   while (whole_width(canvas, text) > width) lose_last(text);
