@@ -42,7 +42,7 @@ ReportRows statistics_rows(const wafer& wafer, const NumberText& number) {
           {840, "Minimum:", number(wafer.mini)},
           {1080, "Std. Dev:", number(wafer.StdDev)},
           {1320, std::nullopt, relative_deviation(wafer)},
-          {1560, "Range:", number(wafer.maxi - wafer.mini)},
+          {1560, "Range:", number(checked(wafer.maxi - wafer.mini))},
           {1800, "Hi/Lo Var:", percent(hi_lo(wafer))},
           {2040, "Unit:", first_15(wafer.Meas_unit)}};
 }
