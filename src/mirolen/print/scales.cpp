@@ -35,9 +35,9 @@ struct ScaleBoxes {
   double text_width() const { return divide(2000, pixel.width); }
 
   void fill(PlotCanvas& target, int row, double color) const {
+    target.FillColor(to_color(color));
     const std::int32_t x1 = to_int32(left), x2 = to_int32(left + width);
     const std::int32_t y1 = to_int32(row_top(row)), y2 = to_int32(row_top(row + 1));
-    target.FillColor(to_color(color));
     target.Polygon(std::array<PixelPoint, 4>{{{x1, y1}, {x2, y1}, {x2, y2}, {x1, y2}}});
   }
 };
