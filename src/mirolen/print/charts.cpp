@@ -2,16 +2,15 @@
 
 #include "mirolen/core/palette.h"
 #include "mirolen/print/PrintWafer.h"
+#include "mirolen/print/layout.h"
 #include "mirolen/print/target.h"
 #include "mirolen/render/StringFormat.h"
 
 namespace mirolen {
 namespace {
 
-constexpr std::int16_t on_page = 1;
 constexpr std::int16_t by_angle = 1;
 constexpr std::int16_t samples = 88;
-constexpr double from_above = 90;
 
 struct ChartBox {
   double left, top, width, height;
@@ -53,7 +52,7 @@ void PrintWafer::Print_1DPlot(wafer& wafer, std::int16_t angle, std::int16_t Plo
   ResetPrinterObj();
   if (framed) DrawFrame(caption, left, top, width, height);
   const double yb = top + height - 1555, xb = left + width - 1215;
-  DrawFlatNotchBox(xb, yb + 360, wafer.flat_ratio, 0, from_above);
+  DrawFlatNotchBox(xb, yb + 360, wafer.flat_ratio, 0, print::from_above);
   DrawCutLine(wafer, angle, PlotType, RotationPointX, RotationPointY, LineStartPointX, LineStartPointY,
               LineEndPointX, LineEndPointY, xb + 138, yb + 810);
   if (PlotType == by_angle) {
@@ -78,10 +77,10 @@ void PrintWafer::Print_1DPlot(wafer& wafer, std::int16_t angle, std::int16_t Plo
   const double x1 = at_angle ? RotationPointX : LineStartPointX;
   const double y1 = at_angle ? RotationPointY : LineStartPointY;
   wafer.D1Plot(target, samples, angle, at_angle, x1, y1, LineEndPointX, LineEndPointY, QBColor(4), chart.left,
-               chart.top, chart.width, chart.height, on_page);
+               chart.top, chart.width, chart.height, print::on_page);
   if (marksites)
     wafer.D1Plot_MarkSites(target, nullptr, angle, at_angle, x1, y1, LineEndPointX, LineEndPointY, QBColor(4),
-                           chart.left, chart.top, chart.width, chart.height, on_page);
+                           chart.left, chart.top, chart.width, chart.height, print::on_page);
   ResetPrinterObj();
 }
 
@@ -110,7 +109,7 @@ namespace {
 
 /// The chart in its box, m from either side of the area and n from its top.
 void print_histogram(PrintWafer& page, std::int16_t PlotType, wafer& wafer, double left, double top,
-                     double width, double height, double Resolution, double n, double below) {
+                     double width, double height, double Resolution, double n) {
   PlotCanvas& target = print::canvas_of(page.PrinterObj);
   const ResumeNext pass_over([] {});
   double m = 0;
@@ -121,11 +120,11 @@ void print_histogram(PrintWafer& page, std::int16_t PlotType, wafer& wafer, doub
   });
   pass_over([&] { target.ScaleMode(pixels); });
   pass_over([&] {
-    double x0 = left + m, y0 = top + n, breite = width - 2 * m, hoehe = height - below;
+    double x0 = left + m, y0 = top + n, breite = width - 2 * m, hoehe = height - 2.2 * n;
     double chart_left = x0, chart_top = y0;
     std::int16_t laenge = 60;
     wafer.Statistic(PlotType, target, target, x0, y0, breite, hoehe, Resolution, laenge, chart_left,
-                    chart_top, on_page);
+                    chart_top, print::on_page);
   });
   pass_over([&] { target.ScaleMode(twips); });
   pass_over([&] { page.ResetPrinterObj(); });
@@ -136,17 +135,16 @@ void print_histogram(PrintWafer& page, std::int16_t PlotType, wafer& wafer, doub
 void PrintWafer::Print_Histo(std::int16_t PlotType, wafer& wafer, double left, double top, double width,
                              double height, double Resolution, double, const std::string& caption,
                              bool framed) {
-  constexpr double n = 600;
   const ResumeNext pass_over([] {});
   pass_over([&] {
     if (framed) DrawFrame(caption, left, top, width, height);
   });
-  print_histogram(*this, PlotType, wafer, left, top, width, height, Resolution, n, 2.2 * n);
+  print_histogram(*this, PlotType, wafer, left, top, width, height, Resolution, 600);
 }
 
 void PrintWafer::Print_Histo_THN(std::int16_t PlotType, wafer& wafer, double left, double top, double width,
                                  double height, double Resolution, double, const std::string&) {
-  print_histogram(*this, PlotType, wafer, left, top, width, height, Resolution, 0, 0);
+  print_histogram(*this, PlotType, wafer, left, top, width, height, Resolution, 0);
 }
 
 }  // namespace mirolen

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "mirolen/print/PrintWafer.h"
+#include "mirolen/print/layout.h"
 #include "mirolen/print/target.h"
 #include "mirolen/render/ContourInterval.h"
 #include "mirolen/render/StringFormat.h"
@@ -8,8 +9,6 @@
 namespace mirolen {
 namespace {
 
-constexpr std::int16_t on_page = 1;
-constexpr double from_above = 90;
 constexpr double text_width = 1200;
 
 std::string interval_text(double Interval, const std::string& suffix) {
@@ -31,17 +30,16 @@ void PrintWafer::Print_Contour(wafer& wafer, double left, double top, double wid
   ResetPrinterObj();
   if (framed) DrawFrame(caption, left, top, width, height);
   const double yb = top + height - 1555, xb = left + width - 1215;
-  DrawFlatNotchBox(xb, yb + 360, wafer.flat_ratio, 0, from_above);
+  DrawFlatNotchBox(xb, yb + 360, wafer.flat_ratio, 0, print::from_above);
   const double p = IntervalInPercent ? Interval : percent_of_mean(wafer, Interval);
   std::string text = interval_text(Interval, suffix_of(IntervalInPercent, MeasurementUnit));
   DrawLeftText(text, xb, yb, text_width, 0);
 
   const double t = top + target.TextHeight("0");
   const double w = width - 1215;
-  const double size = std::min(w, height) * 0.9;
-  const double x0 = left + (w - size) / 2, y0 = t + (height - size) / 2;
-  wafer.D2Contour(target, to_int16(size / 2), p, marksites, Resolution, PlotColored, x0, y0, size, size,
-                  on_page);
+  const print::Square at = print::centred(left, t, w, height, print::plot_size(w, height));
+  wafer.D2Contour(target, to_int16(at.size / 2), p, marksites, Resolution, PlotColored, at.left, at.top,
+                  at.size, at.size, print::on_page);
   ResetPrinterObj();
 }
 
@@ -52,10 +50,10 @@ void PrintWafer::Print_Contour_THN(wafer& wafer, double left, double top, double
   PlotCanvas& target = print::canvas_of(PrinterObj);
   ResetPrinterObj();
   const double h = target.TextHeight("0");
-  const double size = framed ? std::min(width, height - 3 * h) * 0.9 : std::min(width, height);
+  const double size = framed ? print::plot_size(width, height - 3 * h) : std::min(width, height);
   const double p = IntervalInPercent ? contour_interval_in_percent(wafer, wafer.range, Interval) : Interval;
   wafer.D2Contour(target, to_int16(size / 2), p, marksites, Resolution, PlotColored, left, top, size, size,
-                  on_page);
+                  print::on_page);
   ResetPrinterObj();
   if (framed) {
     DrawLeftText(text, left, top + 3 * h / 2 + size + h / 2, size, 0);

@@ -3,14 +3,13 @@
 
 #include "mirolen/core/palette.h"
 #include "mirolen/print/PrintWafer.h"
+#include "mirolen/print/layout.h"
 #include "mirolen/print/target.h"
 #include "mirolen/render/InclinedCircle.h"
 #include "mirolen/render/Screen.h"
 
 namespace mirolen {
 namespace {
-
-constexpr double notch = 1;
 
 template <std::size_t count>
 void cut_out(PlotCanvas& target, const std::array<SurfacePoint, count>& corners) {
@@ -42,7 +41,7 @@ void PrintWafer::DrawFlatNotchSymbol(double& x, double& y, double style, double&
   target.ForeColor(QBColor(0));
   target.FillColor(QBColor(15));
   target.Circle(x, y, r, {}, {}, {}, aspect);
-  if (style == notch) {
+  if (style == print::notch) {
     const double turn = rot * Pi / 180;
     const SurfacePoint A = P(rot + 10, r + r / 3), B = P(rot - 10, r + r / 3);
     const SurfacePoint T{x + 0.8 * std::sin(turn) * r, y + 0.8 * std::cos(turn) * (aspect * r)};
@@ -60,7 +59,7 @@ void PrintWafer::DrawFlatNotchSymbol(double& x, double& y, double style, double&
 }
 
 void PrintWafer::DrawFlatNotchBox(double left, double top, double style, double rot, double incl) {
-  DrawFrame(style == notch ? "Notch" : "Flat", left, top, 975, 1095);
+  DrawFrame(style == print::notch ? "Notch" : "Flat", left, top, 975, 1095);
   double x = left + 488, y = top + 800, r = 350;
   DrawFlatNotchSymbol(x, y, style, r, rot, incl);
 }

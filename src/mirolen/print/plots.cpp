@@ -1,47 +1,47 @@
 #include <algorithm>
 
 #include "mirolen/print/PrintWafer.h"
+#include "mirolen/print/layout.h"
 #include "mirolen/print/target.h"
 
 namespace mirolen {
+
+using print::on_page, print::Square;
+
 namespace {
 
-constexpr std::int16_t ten_bands = 5, three_sigma_classes = 4, no_marks = 0, on_page = 1;
-constexpr double from_above = 90;
-constexpr double share_of_area = 0.9;
+constexpr std::int16_t ten_bands = 5, three_sigma_classes = 4, no_marks = 0;
 constexpr double beside_plot = 1250;  // room for the orientation box
-
-/// The square of a plot on the page.
-struct Square {
-  double left, top, size;
-};
-
-double largest_square(double width, double height) { return std::min(width, height) * share_of_area; }
-
-/// A square of a size in the middle of an area.
-Square centred(double left, double top, double width, double height, double size) {
-  return {left + (width - size) / 2, top + (height - size) / 2, size};
-}
 
 /// How the orientation mark is seen.
 struct View {
   double rot = 0;
-  double incl = from_above;
+  double incl = print::from_above;
 };
 
-/// What six plots share: the orientation box, and beside it the plot in the middle of what is left, a line
-/// below the top of the frame. They differ in when the frame is drawn.
+/// Below the line that the caption stands on.
+double below_line(const PrintWafer& page, double top) {
+  return top + print::canvas_of(page.PrinterObj).TextHeight("0");
+}
+
+/// A plot in the middle of its area.
+template <class Render>
+void print_centred(PrintWafer& page, double left, double top, double width, double height, Render render) {
+  PlotCanvas& target = print::canvas_of(page.PrinterObj);
+  target.ScaleMode(pixels);
+  render(target, print::centred(left, top, width, height, print::plot_size(width, height)));
+  page.ResetPrinterObj();
+}
+
+/// What six plots share: the orientation box, and beside it the plot in what is left. They differ in when the
+/// frame is drawn.
 template <class Render>
 void print_beside_orientation(PrintWafer& page, const wafer& wafer, double left, double top, double& width,
                               double height, View view, Render render) {
-  PlotCanvas& target = print::canvas_of(page.PrinterObj);
   page.DrawFlatNotchBox(left + width - 1215, top + height - 1355, wafer.flat_ratio, view.rot, view.incl);
-  const double below_line = top + target.TextHeight("0");
+  const double t = below_line(page, top);
   width -= beside_plot;
-  const Square square = centred(left, below_line, width, height, largest_square(width, height));
-  target.ScaleMode(pixels);
-  render(target, square);
-  page.ResetPrinterObj();
+  print_centred(page, left, t, width, height, render);
 }
 
 }  // namespace
@@ -118,7 +118,7 @@ void PrintWafer::Print_2DPlot_THN(wafer& wafer, double left, double top, double 
   PlotCanvas& target = print::canvas_of(PrinterObj);
   ResetPrinterObj();
   const double h = target.TextHeight("0");
-  const double size = largest_square(width, height);
+  const double size = print::plot_size(width, height);
   const double x0 = left + (width - size) / 2, y0 = top + h + h / 2;
   target.ScaleMode(pixels);
   wafer.D2Plot(target, res, ten_bands, 0, no_marks, x0, y0, size, size, on_page);
@@ -130,15 +130,12 @@ void PrintWafer::Print_2DPlot_THN(wafer& wafer, double left, double top, double 
 
 void PrintWafer::Print_2DSigmaPlot_THN(wafer& wafer, double left, double top, double width, double height,
                                        double res, double, double SigmaRange, const std::string& caption) {
-  PlotCanvas& target = print::canvas_of(PrinterObj);
   ResetPrinterObj();
   DrawFrame(caption, left, top, width, height);
-  const double below_line = top + target.TextHeight("0");
-  const Square at = centred(left, below_line, width, height, largest_square(width, height));
-  target.ScaleMode(pixels);
-  wafer.D2Plot(target, res, three_sigma_classes, SigmaRange, no_marks, at.left, at.top, at.size, at.size,
-               on_page);
-  ResetPrinterObj();
+  print_centred(*this, left, below_line(*this, top), width, height, [&](PlotCanvas& plot, Square at) {
+    wafer.D2Plot(plot, res, three_sigma_classes, SigmaRange, no_marks, at.left, at.top, at.size, at.size,
+                 on_page);
+  });
 }
 
 void PrintWafer::Print_2DVGridPlot(wafer& wafer, double left, double top, double width, double height,
@@ -146,7 +143,7 @@ void PrintWafer::Print_2DVGridPlot(wafer& wafer, double left, double top, double
   if (framed) return Print_GridPosPlot(wafer, left, top, width, height, caption);
   PlotCanvas& target = print::canvas_of(PrinterObj);
   ResetPrinterObj();
-  const Square at = centred(left, top, width, height, std::min(width, height));
+  const Square at = print::centred(left, top, width, height, std::min(width, height));
   target.ScaleMode(pixels);
   wafer.GridPosPlot(target, at.left, at.top, at.size, at.size, on_page);
   ResetPrinterObj();
@@ -154,13 +151,10 @@ void PrintWafer::Print_2DVGridPlot(wafer& wafer, double left, double top, double
 
 void PrintWafer::Print_GridPosPlot(wafer& wafer, double left, double top, double width, double height,
                                    const std::string& caption) {
-  PlotCanvas& target = print::canvas_of(PrinterObj);
   ResetPrinterObj();
-  const double below_line = top + target.TextHeight("0");
-  const Square at = centred(left, below_line, width, height, largest_square(width, height));
-  target.ScaleMode(pixels);
-  wafer.GridPosPlot(target, at.left, at.top, at.size, at.size, on_page);
-  ResetPrinterObj();
+  print_centred(*this, left, below_line(*this, top), width, height, [&](PlotCanvas& plot, Square at) {
+    wafer.GridPosPlot(plot, at.left, at.top, at.size, at.size, on_page);
+  });
   DrawFrame(caption, left, top, width, height);
 }
 

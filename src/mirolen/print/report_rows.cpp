@@ -2,13 +2,12 @@
 
 #include <cmath>
 
+#include "mirolen/print/layout.h"
 #include "mirolen/print/text_writers.h"
 #include "mirolen/render/StringFormat.h"
 
 namespace mirolen::print {
 namespace {
-
-constexpr double notch = 1;
 
 std::string percent(double value) {
   std::string format = "0.00";
