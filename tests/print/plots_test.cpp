@@ -201,43 +201,52 @@ TEST(PrintedPlots, AreAsWorkedOutWithAndWithoutSites) {
 }
 
 TEST(PrintedPlots, ShowTheirCaptionInAFrameOnly) {
-  for_all_plots([](auto plot) {
-    Given given = sample();
-    const Outcome with_frame = printed({}, given, plot);
-    EXPECT_THAT(with_frame.lines, Contains("Print Thickness"));
-    given.framed = false;
-    const Outcome outcome = printed({}, given, plot);
-    EXPECT_LE(of(outcome, "Print").size(), of(with_frame, "Print").size());
-  });
-  for (const auto& lines : {printed(
-                                {},
-                                [] {
-                                  Given g = sample();
-                                  g.framed = false;
-                                  return g;
-                                }(),
-                                k2D)
-                                .lines,
-                            printed(
-                                {},
-                                [] {
-                                  Given g = sample();
-                                  g.framed = false;
-                                  return g;
-                                }(),
-                                k3D)
-                                .lines}) {
-    EXPECT_THAT(lines, Not(Contains("Print Thickness")));
-    EXPECT_THAT(lines, Contains("Print Notch"));
-  }
+  Given bare = sample();
+  bare.framed = false;
+  for_all_plots(
+      [](auto plot) { EXPECT_THAT(printed({}, sample(), plot).lines, Contains("Print Thickness")); });
+  const auto expect_no_caption = [&](auto plot) {
+    EXPECT_THAT(printed({}, bare, plot).lines, Not(Contains("Print Thickness")));
+  };
+  const auto expect_mark_alone = [&](auto plot) {
+    expect_no_caption(plot);
+    EXPECT_THAT(printed({}, bare, plot).lines, Contains("Print Notch"));
+  };
+  expect_mark_alone(k2D);
+  expect_mark_alone(k2DN);
+  expect_mark_alone(k2DSigma);
+  expect_mark_alone(k3D);
+  expect_mark_alone(k3DSigma);
+  expect_mark_alone(k2DB);
+  expect_mark_alone(kPercent);
+  expect_no_caption(kGridNumber);
+  expect_no_caption(kPercentCompact);
 }
 
-TEST(PrintedPlots, StandInTheSamePlaceWithoutAFrame) {
-  Given given = sample();
-  const Outcome framed = printed({}, given, k2D), sigma = printed({}, given, k2DSigma);
-  given.framed = false;
-  EXPECT_EQ(of(printed({}, given, k2D), "Circle"), of(framed, "Circle"));
-  EXPECT_EQ(of(printed({}, given, k2DSigma), "Circle"), of(sigma, "Circle"));
+TEST(PrintedPlots, AndTheirOrientationBoxStandInTheSamePlaceWithoutAFrame) {
+  Given bare = sample();
+  bare.framed = false;
+  const auto expect_same_place = [&](auto plot) {
+    EXPECT_EQ(of(printed({}, bare, plot), "Circle"), of(printed({}, sample(), plot), "Circle"));
+  };
+  expect_same_place(k2D);
+  expect_same_place(k2DSigma);
+  expect_same_place(k3D);
+  expect_same_place(kAbsolute);
+}
+
+TEST(PrintedPlots, AreLimitedByTheLowerOfHeightAndWidthBesideTheBox) {
+  const auto disc = [](double width, double height) {
+    Given given = sample();
+    given.left = given.top = 0;
+    given.width = width;
+    given.height = height;
+    const PageSetup setup{CanvasKind::printer, {1, 1}, {1, 1}, "", 0};
+    return of(printed(setup, given, k2DN), "Circle").at(1);
+  };
+  // Squares of 1800 twips: in the middle across, a line of 184.8 twips below the middle.
+  EXPECT_THAT(disc(9000, 2000), StartsWith("Circle 3875 1184"));
+  EXPECT_THAT(disc(3250, 6000), StartsWith("Circle 1000 3184"));
 }
 
 TEST(PrintedPlots, ChangeOnlyTheWidthAndOnlyBesideTheOrientationBox) {
