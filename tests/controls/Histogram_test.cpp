@@ -139,6 +139,19 @@ TEST_F(HistogramTest, LimitsAreTakenInAnyOrderAndLeaveTheScale) {
   EXPECT_EQ(control.wafobj.vUcl, 0);
 }
 
+TEST_F(HistogramTest, NewDataBringTheirOwnScaleWhateverTheLimits) {
+  place();
+  control.SetPlotLimit(10, 90);
+  for (const double height : {100.0, 5.0}) {
+    SiteColumns sites = square_of_sites();
+    for (double& z : sites.z) z *= height / 100;
+    control.load(sites);
+    EXPECT_EQ(control.wafobj.maximal, height);
+    EXPECT_EQ(control.wafobj.minimal, 0);
+    EXPECT_EQ(control.wafobj.vUcl, 90);
+  }
+}
+
 TEST_F(HistogramTest, LimitsAreDrawnAtOnceOnlyWhenThereIsAPlot) {
   place();
   control.load(square_of_sites());

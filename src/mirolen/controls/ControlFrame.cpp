@@ -30,7 +30,7 @@ void ControlFrame::forward_events(Widget& widget) {
 
 std::int16_t ControlFrame::SetWaferData(const ArrayView& x, const ArrayView& y, const ArrayView& Z) {
   try {
-    const std::int16_t result = GlobalFunctions::LoadSiteArrays(PlotLimitSet, wafobj, x, y, Z);
+    const std::int16_t result = GlobalFunctions::LoadSiteArrays(keeps_limits(), wafobj, x, y, Z);
     data_changed();
     return result;
   } catch (const std::exception&) {
@@ -40,7 +40,7 @@ std::int16_t ControlFrame::SetWaferData(const ArrayView& x, const ArrayView& y, 
 
 std::int16_t ControlFrame::SetDataFile(const std::string& datafile, double nops) {
   try {
-    const std::int16_t result = GlobalFunctions::LoadSiteFile(PlotLimitSet, wafobj, datafile, nops);
+    const std::int16_t result = GlobalFunctions::LoadSiteFile(keeps_limits(), wafobj, datafile, nops);
     data_changed();
     return result;
   } catch (const std::exception&) {
@@ -153,7 +153,7 @@ void ControlFrame::WaferDiameter(double v) {
 void ControlFrame::TestDiameter(double v) {
   if (!std::isfinite(v) || v < 0) v = wafobj.WafDiam;
   if (wafobj.test_diam > v && wafobj.GetNop() > 0)
-    quietly([&] { GlobalFunctions::ClipToTestDiameter(PlotLimitSet, wafobj, v); });
+    quietly([&] { GlobalFunctions::ClipToTestDiameter(keeps_limits(), wafobj, v); });
   wafobj.test_diam = v;
   look_changed("TestDiameter");
 }

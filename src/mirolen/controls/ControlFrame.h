@@ -144,6 +144,8 @@ class ControlFrame : public UserControl {
   /// Empties the drawing and its snapshot after the data have changed.
   virtual void wipe_drawing() = 0;
   virtual void forget_snapshot() = 0;
+  /// Whether new data keep the ends of the scale.
+  virtual bool keeps_limits() const { return PlotLimitSet; }
 
   /// Runs the resize handler; an error ends it without a word.
   void resize_handler();

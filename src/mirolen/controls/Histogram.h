@@ -69,6 +69,8 @@ class Histogram : public ControlFrame {
   void lay_out() override;
   void wipe_drawing() override;
   void forget_snapshot() override {}
+  /// Its limits are marks: the scale is that of the data, also of the next.
+  bool keeps_limits() const override { return false; }
 
  private:
   void place_chart();
