@@ -3,7 +3,6 @@
 #include <QFontMetricsF>
 #include <QPaintDevice>
 #include <QPainter>
-#include <utility>
 
 #include "mirolen/qt/translate.h"
 
@@ -23,7 +22,7 @@ QRectF area_of(const SurfaceBox& box) {
 }  // namespace
 
 PageSurface::PageSurface(QPainter& painter, const QPaintDevice& device)
-    : painter_(painter), device_(device) {}
+    : painter_(painter), device_(device), cells_(painter) {}
 
 SurfaceSize PageSurface::size() const {
   return {static_cast<double>(device_.width()), static_cast<double>(device_.height())};
@@ -34,7 +33,7 @@ SurfaceSize PageSurface::twips_per_pixel() const {
 }
 
 QPainter& PageSurface::painter() {
-  refresh();
+  cells_.end();
   return painter_;
 }
 
@@ -71,13 +70,7 @@ void PageSurface::polygon(const Pen& pen, const Brush& brush, std::span<const Pi
   if (points.empty()) return;
   if (!is_drawn(pen)) {
     if (!brush.solid) return;
-    const std::optional<UprightBox> box = upright_box(points);
-    if (box && extend_run(*box, brush.color)) return;
-    if (box) {
-      refresh();
-      run_ = Run{*box, brush.color};
-      return;
-    }
+    if (const std::optional<UprightBox> box = upright_box(points)) return cells_.add(*box, brush.color);
   }
   const double to_centre = is_drawn(pen) ? 0.5 : 0;
   QPolygonF corners;
@@ -85,21 +78,6 @@ void PageSurface::polygon(const Pen& pen, const Brush& brush, std::span<const Pi
   painter().setPen(qpen(pen));
   painter_.setBrush(qbrush(brush));
   painter_.drawPolygon(corners);
-}
-
-bool PageSurface::extend_run(const UprightBox& box, Color color) {
-  if (!run_ || run_->color != color) return false;
-  UprightBox& run = run_->box;
-  if (box.from.y != run.from.y || box.to.y != run.to.y) return false;
-  if (box.from.x == run.to.x) {
-    run.to.x = box.to.x;
-    return true;
-  }
-  if (box.to.x == run.from.x) {
-    run.from.x = box.from.x;
-    return true;
-  }
-  return false;
 }
 
 void PageSurface::text(const FontSpec& font, Color color, std::optional<Color> background, SurfacePoint place,
@@ -125,13 +103,5 @@ void PageSurface::flood_fill(const Brush&, PixelPoint, Color) { throw CanvasErro
 std::shared_ptr<const Image> PageSurface::snapshot() const { throw CanvasError("Image"); }
 
 void PageSurface::restore(const Image&) { throw CanvasError("Image"); }
-
-void PageSurface::refresh() {
-  if (!run_) return;
-  const Run run = *std::exchange(run_, std::nullopt);
-  painter_.fillRect(QRectF(QPointF(in_reach(run.box.from.x), in_reach(run.box.from.y)),
-                           QPointF(in_reach(run.box.to.x), in_reach(run.box.to.y))),
-                    qcolor_of(run.color));
-}
 
 }  // namespace mirolen::qt

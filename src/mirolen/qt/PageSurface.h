@@ -1,8 +1,6 @@
 #pragma once
 
-#include <optional>
-
-#include "mirolen/qt/painting.h"
+#include "mirolen/qt/CellRows.h"
 #include "mirolen/render/Surface.h"
 
 class QPaintDevice;
@@ -13,13 +11,15 @@ namespace mirolen::qt {
 /// A Surface of vectors and text: a page of a printer, of a PDF or an SVG file. Nothing on it is made of
 /// pixels; sizes and widths count in those of the device.
 ///
-/// Boxes without an outline that lie side by side in one colour, as the cells of a map do, become one. What a
-/// page cannot do, filling up to a boundary and giving its picture, throws CanvasError.
+/// Boxes without an outline, as the cells of a map are, are painted as CellRows does. What a page cannot do,
+/// filling up to a boundary and giving its picture, throws CanvasError.
 class PageSurface : public Surface {
  public:
   /// Both stay the caller's; the painter paints on the device, in its pixels.
   PageSurface(QPainter& painter, const QPaintDevice& device);
-  /// What the surface still keeps back goes to the painter with `refresh`, before the page ends.
+
+  /// Gives the painter what is still kept back. To be called before the page ends.
+  void end_page() { cells_.end(); }
 
   SurfaceSize size() const override;
   SurfaceSize twips_per_pixel() const override;
@@ -35,21 +35,16 @@ class PageSurface : public Surface {
   [[noreturn]] void flood_fill(const Brush& brush, PixelPoint seed, Color boundary) override;
   std::shared_ptr<const Image> snapshot() const override;
   [[noreturn]] void restore(const Image& image) override;
-  void refresh() override;
+  /// Nothing: nobody sees a page before it ends.
+  void refresh() override {}
 
  private:
-  struct Run {
-    UprightBox box;
-    Color color;
-  };
-
-  /// Whether the box belongs to the run that is kept back, which then has it.
-  bool extend_run(const UprightBox& box, Color color);
+  /// The painter, for anything else than cells.
   QPainter& painter();
 
   QPainter& painter_;
   const QPaintDevice& device_;
-  std::optional<Run> run_;
+  CellRows cells_;
 };
 
 }  // namespace mirolen::qt

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <deque>
+
+#include "mirolen/qt/painting.h"
+
+class QPainter;
+
+namespace mirolen::qt {
+
+/// Paints the cells of a map, which come row by row, with few boxes: those side by side in one colour as one.
+///
+/// The pixels are those of one box a cell. A viewer that smooths edges would show the background through
+/// every seam of two cells, so the one that is painted first reaches under the other.
+class CellRows {
+ public:
+  /// The painter stays the caller's.
+  explicit CellRows(QPainter& painter) : painter_(painter) {}
+
+  /// Paints a cell, now or later; it may lie anywhere.
+  void add(const UprightBox& cell, Color color);
+  /// Paints what is kept back, before anything else is painted.
+  void end();
+
+ private:
+  struct Run {
+    UprightBox box;
+    Color color;
+  };
+  /// Boxes of one height side by side, apart or touching, from left to right.
+  using Row = std::deque<Run>;
+
+  /// Whether the box belongs to the present row, which then has it.
+  bool extend_row(const UprightBox& box, Color color);
+  void paint(const Row& row, const Row& following);
+  void fill(const UprightBox& box, Color color);
+
+  QPainter& painter_;
+  Row before_, row_;  // kept back: the present row and the one it touches, of which nothing is painted
+};
+
+}  // namespace mirolen::qt
