@@ -22,8 +22,11 @@ class PrintJob::Device {
   virtual QPaintDevice& paint_device() = 0;
   /// Goes on to a new page. @return false if it fails or there is none.
   virtual bool next_page() = 0;
-  /// After the painting has ended. @throws RunTimeError.
+  /// While the painting goes on: lets nothing come of it.
+  virtual void cancel() = 0;
+  /// After the painting has ended. @throws RunTimeError; then nothing is left.
   virtual void keep() = 0;
+  /// The same after one that was cancelled or has failed, or none.
   virtual void drop() = 0;
 };
 
@@ -39,10 +42,11 @@ class PrinterDevice : public PrintJob::Device {
   void open() override {}
   QPaintDevice& paint_device() override { return *printer_; }
   bool next_page() override { return printer_->newPage(); }
+  void cancel() override { printer_->abort(); }
   void keep() override {
     if (printer_->printerState() == QPrinter::Error) throw CanvasError("the printing");
   }
-  void drop() override { printer_->abort(); }
+  void drop() override {}
 
  protected:
   QPrinter* printer_ = nullptr;
@@ -75,12 +79,16 @@ class FileDevice : public PrintJob::Device {
     if (!file_.open(QIODevice::WriteOnly)) fail();
   }
   void open() override {
-    if (!file_.isOpen()) throw FileError(utf8_of(file_.fileName()) + " is finished");
+    if (!file_.isOpen()) throw FileError(utf8_of(file_.fileName()) + ": the print job has ended");
   }
+  void cancel() override { file_.cancelWriting(); }
   void keep() override {
     if (!file_.commit()) fail();
   }
-  void drop() override { file_.cancelWriting(); }
+  void drop() override {
+    file_.cancelWriting();
+    if (file_.isOpen()) file_.commit();  // closes and removes what is written so far
+  }
 
  protected:
   QSaveFile& file() { return file_; }
@@ -165,23 +173,29 @@ mirolen::Surface* PrintJob::device() const {
 }
 
 void PrintJob::new_page() {
-  device()->refresh();
+  device();  // starts the job
+  page_->surface->end_page();
   if (!device_->next_page()) throw CanvasError("the start of a page");
   CurrentX(0);
   CurrentY(0);
 }
 
 void PrintJob::finish() {
-  device()->refresh();
+  device();
+  page_->surface->end_page();
   const bool painted = page_->painter.end();
   page_.reset();
-  if (!painted) throw CanvasError("the end of the print job");
+  if (!painted) {
+    device_->drop();
+    throw CanvasError("the end of the print job");
+  }
   device_->keep();
 }
 
 void PrintJob::abandon() {
-  if (page_) device_->drop();
+  if (page_) device_->cancel();
   page_.reset();
+  device_->drop();
 }
 
 }  // namespace mirolen::qt
