@@ -1,5 +1,6 @@
 #include "mirolen/qt/PrintJob.h"
 
+#include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -72,38 +73,54 @@ class DefaultPrinterDevice : public PrinterDevice {
   std::unique_ptr<QPrinter> own_;
 };
 
-/// A file that stands in its place when it is whole.
+/// A file that stands in its place when it is whole. Until then it is in memory: the writers of Qt do not
+/// notice a disk that takes a part of what they write.
 class FileDevice : public PrintJob::Device {
  public:
   explicit FileDevice(const QString& name) : file_(name) {
-    if (!file_.open(QIODevice::WriteOnly)) fail();
+    if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) fail(file_.errorString());
+    content_.open(QIODevice::WriteOnly);
   }
   void open() override {
-    if (!file_.isOpen()) throw FileError(utf8_of(file_.fileName()) + ": the print job has ended");
+    if (!file_.isOpen()) fail(QStringLiteral("the print job has ended"));
   }
-  void cancel() override { file_.cancelWriting(); }
+  void cancel() override {}
   void keep() override {
-    if (!file_.commit()) fail();
+    const bool written = write_content();
+    const QString reason = file_.errorString();
+    if (!written) file_.cancelWriting();
+    if (!file_.commit()) fail(written ? file_.errorString() : reason);
   }
   void drop() override {
     file_.cancelWriting();
-    if (file_.isOpen()) file_.commit();  // closes and removes what is written so far
+    if (file_.isOpen()) file_.commit();  // closes and removes it
   }
 
  protected:
-  QSaveFile& file() { return file_; }
+  QIODevice& content() { return content_; }
 
  private:
-  [[noreturn]] void fail() const {
-    throw FileError(utf8_of(file_.fileName()) + ": " + utf8_of(file_.errorString()));
+  /// A disk may take a part before it refuses the rest and tells why.
+  bool write_content() {
+    QByteArrayView rest = content_.data();
+    while (!rest.empty()) {
+      const qint64 taken = file_.write(rest.data(), rest.size());
+      if (taken <= 0) return false;
+      rest = rest.sliced(taken);
+    }
+    return true;
+  }
+  [[noreturn]] void fail(const QString& reason) const {
+    throw FileError(utf8_of(file_.fileName()) + ": " + utf8_of(reason));
   }
 
   QSaveFile file_;
+  QBuffer content_;
 };
 
 class PdfDevice : public FileDevice {
  public:
-  PdfDevice(const QString& name, const QPageLayout& layout) : FileDevice(name), writer_(&file()) {
+  PdfDevice(const QString& name, const QPageLayout& layout) : FileDevice(name), writer_(&content()) {
     writer_.setResolution(PrintJob::resolution);
     writer_.setPageLayout(layout);
   }
@@ -119,7 +136,7 @@ class SvgDevice : public FileDevice {
   SvgDevice(const QString& name, const QSizeF& size) : FileDevice(name) {
     constexpr double millimetres_per_inch = 25.4;
     const QSize pixels = (size * (PrintJob::resolution / millimetres_per_inch)).toSize();
-    generator_.setOutputDevice(&file());
+    generator_.setOutputDevice(&content());
     generator_.setResolution(PrintJob::resolution);
     generator_.setSize(pixels);
     generator_.setViewBox(QRect(QPoint(), pixels));
