@@ -9,6 +9,7 @@
 #include <QXmlStreamReader>
 #include <csignal>
 
+#include "mirolen/qt/Plot2DS.h"
 #include "qt/page_tools.h"
 #include "qt/qt_support.h"
 
@@ -150,6 +151,16 @@ TEST_F(PrintJobTest, TextsAreTextsInFontsOfTheFile) {
   }
   const QString images = QString::fromUtf8(output_of("pdfimages", {"-list", pdf_path()}));
   EXPECT_EQ(images.trimmed().split('\n').size(), 2) << images.toStdString();
+}
+
+TEST_F(PrintJobTest, SigmaSignsAreGreekLetters) {
+  qt::Plot2DS sigma_map;
+  load_slope(sigma_map);
+  const auto job = pdf();
+  sigma_map.setPrinterObj(job);
+  EXPECT_EQ(sigma_map.PrintLegend(0, 0, true), 0);
+  job->finish();
+  EXPECT_EQ(text_of_page(pdf_path(), 1).count(QStringLiteral("σ")), 3);
 }
 
 TEST_F(PrintJobTest, TheRowsOfABlockStandInTheirPlaces) {
