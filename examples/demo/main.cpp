@@ -7,8 +7,8 @@
 #include <QtEndian>
 #include <cstdio>
 
-#include "../viewer/plots.h"
-#include "../viewer/wafer_file.h"
+#include "plots.h"
+#include "wafer_file.h"
 #include "mirolen/qt/Plot2D.h"
 
 using mirolen::qt::Plot2D;

@@ -1,28 +1,27 @@
 #include "ViewerWindow.h"
 
 #include <QActionGroup>
-#include <QFileDialog>
-#include <QFileInfo>
+#include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
-#include <QInputDialog>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTabWidget>
 
-#include "wafer_file.h"
-
 using mirolen::qt::PlotWidget;
 
-ViewerWindow::ViewerWindow(double wafer_diameter, double test_diameter) : tabs_(new QTabWidget) {
+ViewerWindow::ViewerWindow(double wafer_diameter, double test_diameter, QString unit)
+    : tabs_(new QTabWidget), wafers_(new QComboBox), unit_(std::move(unit)) {
   auto* content = new QWidget;
   auto* row = new QHBoxLayout(content);
   row->addWidget(tabs_, 1);
-  row->addLayout(statistics());
+  row->addLayout(side_column());
   setCentralWidget(content);
   add_pages(wafer_diameter, test_diameter);
   add_file_menu();
+  add_edit_menu();
   add_view_menu();
+  enable_actions();
   setWindowTitle(tr("Wafer viewer"));
   resize(1050, 740);
 }
@@ -44,6 +43,8 @@ void ViewerWindow::add_file_menu() {
   menu->addAction(tr("&Open CSV..."), QKeySequence::Open, this, &ViewerWindow::ask_csv);
   menu->addAction(tr("Open &binary..."), this, &ViewerWindow::ask_binary);
   menu->addSeparator();
+  add_output_actions(*menu);
+  menu->addSeparator();
   menu->addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
 }
 
@@ -59,10 +60,16 @@ void ViewerWindow::add_view_menu() {
           [this](bool on) { change_looks([on](PlotWidget& plot) { plot.setHideLegend(on); }); });
 
   menu->addSeparator();
+  add_style_actions(*menu);
+  menu->addSeparator();
+  add_wafer_actions(*menu);
+}
+
+void ViewerWindow::add_style_actions(QMenu& menu) {
   auto* const styles = new QActionGroup(this);
   for (const auto& [text, style] :
        {std::pair(tr("&Notch"), PlotWidget::Notch), std::pair(tr("&Flat"), PlotWidget::Flat)}) {
-    QAction* const action = styles->addAction(menu->addAction(text));
+    QAction* const action = styles->addAction(menu.addAction(text));
     action->setCheckable(true);
     action->setChecked(style == plot(0).WaferStyle());
     connect(action, &QAction::triggered, this, [this, style = style] {
@@ -71,10 +78,19 @@ void ViewerWindow::add_view_menu() {
   }
 }
 
-QLayout* ViewerWindow::statistics() {
+void ViewerWindow::add_wafer_actions(QMenu& menu) {
+  next_ = menu.addAction(tr("Ne&xt wafer"), QKeySequence(tr("Ctrl+PgDown")), this, [this] { step_wafer(1); });
+  previous_ =
+      menu.addAction(tr("&Previous wafer"), QKeySequence(tr("Ctrl+PgUp")), this, [this] { step_wafer(-1); });
+}
+
+QLayout* ViewerWindow::side_column() {
   const std::array names{tr("Sites"), tr("Mean"), tr("Std dev"), tr("Std dev %"),
                          tr("Max"),   tr("Min"),  tr("Range"),   tr("Hi/Lo %")};
   auto* const form = new QFormLayout;
+  wafers_->setMinimumWidth(140);
+  form->addRow(tr("&Wafer"), wafers_);
+  connect(wafers_, &QComboBox::currentIndexChanged, this, &ViewerWindow::show_wafer);
   for (std::size_t i = 0; i < names.size(); ++i) {
     figures_[i] = new QLabel("-");
     figures_[i]->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -82,58 +98,6 @@ QLayout* ViewerWindow::statistics() {
     form->addRow(names[i], figures_[i]);
   }
   return form;
-}
-
-void ViewerWindow::ask_csv() {
-  const QString path =
-      QFileDialog::getOpenFileName(this, tr("Open CSV"), {}, tr("Sites (*.csv);;All files (*)"));
-  if (!path.isEmpty()) open_csv(path);
-}
-
-void ViewerWindow::ask_binary() {
-  const QString path = QFileDialog::getOpenFileName(this, tr("Open binary"));
-  if (path.isEmpty()) return;
-  try {
-    const int room = sites_in_binary(path);
-    bool confirmed = false;
-    const int sites = QInputDialog::getInt(this, tr("Open binary"), tr("Number of sites:"), room, 1,
-                                           most_sites, 1, &confirmed);
-    if (confirmed) open_binary(path, sites);
-  } catch (const WaferFileError& error) {
-    complain(tr("%1\n\n%2").arg(path, error.text()));
-  }
-}
-
-bool ViewerWindow::open_csv(const QString& path) {
-  return open(path, [&]() -> Load {
-    SiteList sites = read_csv(path);
-    check_sites(sites, plot(0).WaferDiameter());
-    return
-        [sites = std::move(sites)](PlotWidget& plot) { return plot.SetWaferData(sites.x, sites.y, sites.z); };
-  });
-}
-
-bool ViewerWindow::open_binary(const QString& path, int sites) {
-  return open(path, [&]() -> Load {
-    check_binary(path, sites, plot(0).WaferDiameter());
-    return [path, sites](PlotWidget& plot) { return plot.SetDataFile(path, sites); };
-  });
-}
-
-bool ViewerWindow::open(const QString& path, const std::function<Load()>& prepare) {
-  try {
-    load_ = prepare();
-  } catch (const WaferFileError& error) {
-    complain(tr("%1\n\n%2").arg(path, error.text()));
-    return false;
-  }
-  for (Page& page : pages_) {
-    page.loaded = page.drawn = false;
-    page.named.plot->setProperty("PlotCaption", QFileInfo(path).completeBaseName());
-  }
-  setWindowTitle(tr("%1 - Wafer viewer").arg(QFileInfo(path).fileName()));
-  show_page();
-  return true;
 }
 
 void ViewerWindow::change_looks(const std::function<void(PlotWidget&)>& change) {
@@ -144,12 +108,16 @@ void ViewerWindow::change_looks(const std::function<void(PlotWidget&)>& change) 
   show_page();
 }
 
+ViewerWindow::Page& ViewerWindow::seen_page() {
+  return pages_[static_cast<std::size_t>(tabs_->currentIndex())];
+}
+
 void ViewerWindow::show_page() {
-  Page& page = pages_[static_cast<std::size_t>(tabs_->currentIndex())];
+  Page& page = seen_page();
   PlotWidget& plot = *page.named.plot;
-  if (!load_ || page.drawn) return;
+  if (lot_.empty() || page.drawn) return;
   if (!page.loaded) {
-    if (const int result = load_(plot); result != 0)
+    if (const int result = lot_[seen_wafer()].load(plot); result != 0)
       return complain(tr("The plot refuses these sites (result %1).").arg(result));
     fit_to_data(plot);
     page.loaded = true;

@@ -6,33 +6,47 @@
 #include <functional>
 #include <vector>
 
-#include "plots.h"
+#include "lot.h"
 
+class QAction;
+class QComboBox;
+class QPrinter;
 class QTabWidget;
 
-/// A window with the nine plots of one wafer, a page each, and its statistics. Only the page that is seen
-/// draws.
+/// A window with the nine plots of a wafer, a page each, and its statistics; of several files that are open
+/// one is shown. Only the page that is seen draws. What fails is told by a message.
 class ViewerWindow : public QMainWindow {
  public:
-  /// Diameters in millimetres.
-  ViewerWindow(double wafer_diameter, double test_diameter);
+  /// Diameters in millimetres. The unit is that of the values; it appears in reports.
+  ViewerWindow(double wafer_diameter, double test_diameter, QString unit = {});
 
   /// A page by its place, the colour map first.
   mirolen::qt::PlotWidget& plot(int page) { return *pages_.at(static_cast<std::size_t>(page)).named.plot; }
   QTabWidget& tabs() { return *tabs_; }
+  /// The choice of the wafer that is shown.
+  QComboBox& wafers() { return *wafers_; }
 
-  /// Shows a file. One that is not in order is told by a message, and the plot before it stays. @return
-  /// shown.
-  bool open_csv(const QString& path);
+  /// Opens files in place of those before and shows the first. One that is not in order is left out; if none
+  /// is, the plot before stays. @return all are in order.
+  bool open_csv(const QStringList& paths);
+  bool open_csv(const QString& path) { return open_csv(QStringList(path)); }
   bool open_binary(const QString& path, int sites);
+
+  // What becomes of the plot that is seen. All return whether it was done.
+  bool print_on(QPrinter& printer);
+  bool write_pdf(const QString& path);
+  bool write_svg(const QString& path);
+  /// The plot as it is seen, in the pixels of the screen.
+  bool write_png(const QString& path);
+  void copy();
+  /// A PDF with a page of this plot for each wafer that is open.
+  bool write_lot_report(const QString& path);
 
  protected:
   /// Tells the user what is wrong.
   virtual void complain(const QString& text);
 
  private:
-  /// Loads the present wafer into one plot.
-  using Load = std::function<int(mirolen::qt::PlotWidget&)>;
   struct Page {
     NamedPlot named;
     bool loaded = false, drawn = false;
@@ -40,17 +54,40 @@ class ViewerWindow : public QMainWindow {
 
   void add_pages(double wafer_diameter, double test_diameter);
   void add_file_menu();
+  void add_output_actions(QMenu& menu);
+  void add_edit_menu();
   void add_view_menu();
-  QLayout* statistics();
+  void add_style_actions(QMenu& menu);
+  void add_wafer_actions(QMenu& menu);
+  QLayout* side_column();
   void ask_csv();
   void ask_binary();
-  bool open(const QString& path, const std::function<Load()>& prepare);
+  bool open(std::vector<LotWafer> wafers);
+  void show_wafer();
+  void step_wafer(int by);
+  void enable_actions();
   void change_looks(const std::function<void(mirolen::qt::PlotWidget&)>& change);
   void show_page();
   void show_statistics(mirolen::qt::PlotWidget& plot);
 
+  void ask_printer();
+  void preview();
+  void ask_file_for(const QString& title, const QString& filter, const QString& suffix,
+                    bool (ViewerWindow::*write)(const QString&));
+  Page& seen_page();
+  std::size_t seen_wafer() const;
+  LotReport report(std::vector<LotWafer> wafers, QWidget* owner);
+  bool attempt(const QString& what, const std::function<bool()>& work);
+  bool print_page_on(const QString& what,
+                     const std::function<std::shared_ptr<mirolen::qt::PrintJob>()>& make_job);
+
   QTabWidget* tabs_;
+  QComboBox* wafers_;
+  QString unit_;
   std::vector<Page> pages_;
-  Load load_;
+  std::vector<LotWafer> lot_;
+  std::vector<QAction*> need_data_;
+  QAction* next_ = nullptr;
+  QAction* previous_ = nullptr;
   std::array<QLabel*, 8> figures_{};
 };

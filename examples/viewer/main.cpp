@@ -24,11 +24,14 @@ std::optional<double> diameter(const QCommandLineParser& options, const QString&
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QCommandLineParser options;
-  options.setApplicationDescription("Shows the sites of a wafer as a map in ten colours.");
+  options.setApplicationDescription(
+      "Shows the sites of wafers in nine plots, prints them and writes reports.");
   options.addHelpOption();
   options.addOption({"diameter", "Wafer diameter, 300 unless given.", "mm"});
   options.addOption({"test-diameter", "Diameter that the plot fills, 6 mm less unless given.", "mm"});
-  options.addPositionalArgument("file", "Sites to show: x_mm,y_mm,z.", "[file.csv]");
+  options.addOption({"unit", "Unit of the values, for reports.", "text"});
+  options.addPositionalArgument("files", "Wafers to show, with the sites of one each: x_mm,y_mm,z.",
+                                "[file.csv...]");
   options.process(app);
 
   const auto wafer = diameter(options, "diameter", 300);
@@ -36,9 +39,9 @@ int main(int argc, char** argv) {
   const auto test = diameter(options, "test-diameter", *wafer > 12 ? *wafer - 6 : *wafer);
   if (!test) return 1;
 
-  ViewerWindow window(*wafer, *test);
+  ViewerWindow window(*wafer, *test, options.value("unit"));
   window.show();
   const QStringList files = options.positionalArguments();
-  if (!files.isEmpty()) window.open_csv(files.first());
+  if (!files.isEmpty()) window.open_csv(files);
   return QApplication::exec();
 }

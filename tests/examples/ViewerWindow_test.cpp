@@ -1,38 +1,17 @@
-#include "ViewerWindow.h"
-
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QMenuBar>
-#include <QStringList>
+#include <QComboBox>
 #include <QTabWidget>
 
+#include "examples/quiet_viewer.h"
 #include "mirolen/qt/peers.h"
 #include "qt/qt_support.h"
 
 namespace mirolen {
 namespace {
 
+using examples_test::QuietViewer;
 using qt_test::TemporaryFile;
-
-struct QuietViewer : ViewerWindow {
-  QuietViewer() : ViewerWindow(300, 294) {}
-  void complain(const QString& text) override { complaints << text; }
-  QAction& action(const QString& text) {
-    for (QAction* found : findChildren<QAction*>())
-      if (found->text().remove('&') == text) return *found;
-    throw std::runtime_error("no such action");
-  }
-  bool shows(const QString& figure) {
-    for (QLabel* label : findChildren<QLabel*>())
-      if (label->text() == figure) return true;
-    return false;
-  }
-  qt::Plot2D& map() { return dynamic_cast<qt::Plot2D&>(plot(0)); }
-  std::shared_ptr<const Image> rendering() { return map().control().RePlot.Picture; }
-
-  QStringList complaints;
-};
 
 class Viewer : public testing::Test {
  protected:

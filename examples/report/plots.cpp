@@ -1,5 +1,7 @@
 #include "plots.h"
 
+#include <QMetaProperty>
+
 #include "mirolen/qt/Histogram.h"
 #include "mirolen/qt/LineScan.h"
 #include "mirolen/qt/Plot2D.h"
@@ -11,6 +13,18 @@
 #include "mirolen/qt/Plot3DS.h"
 
 using namespace mirolen::qt;
+
+namespace {
+
+void copy_settings(const PlotWidget& from, PlotWidget& to) {
+  const QMetaObject& type = *from.metaObject();
+  for (int i = PlotWidget::staticMetaObject.propertyOffset(); i < type.propertyCount(); ++i) {
+    const QMetaProperty property = type.property(i);
+    if (property.isWritable() && property.isStored()) property.write(&to, property.read(&from));
+  }
+}
+
+}  // namespace
 
 std::vector<NamedPlot> nine_plots(QWidget* parent) {
   constexpr double cell = 2;  // mm
@@ -30,6 +44,17 @@ std::vector<NamedPlot> nine_plots(QWidget* parent) {
           {"plot3ds", "Sigma surface", new Plot3DS(parent)},
           {"histogram", "Histogram", new Histogram(parent)},
           {"linescan", "Line scan", new LineScan(parent)}};
+}
+
+NamedPlot twin_of(const NamedPlot& original, QWidget* parent) {
+  QWidget nursery;
+  for (const NamedPlot& twin : nine_plots(&nursery)) {
+    if (twin.name != original.name) continue;
+    twin.plot->setParent(parent);
+    copy_settings(*original.plot, *twin.plot);
+    return twin;
+  }
+  throw mirolen::InvalidArgument("there is no plot of this name");
 }
 
 void fit_to_data(PlotWidget& plot) {

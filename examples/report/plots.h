@@ -14,6 +14,10 @@ struct NamedPlot {
 /// All nine, the colour map first, as children of a widget.
 std::vector<NamedPlot> nine_plots(QWidget* parent);
 
+/// A plot of the same kind with the same diameters and looks, without data. Its size is that of a new one,
+/// which all that can be printed fits into.
+NamedPlot twin_of(const NamedPlot& original, QWidget* parent);
+
 /// Chooses what depends on the size of the values: the height of bars and the spacing of curves. Without it
 /// both are far off for values of another magnitude.
 void fit_to_data(mirolen::qt::PlotWidget& plot);

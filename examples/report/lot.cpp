@@ -1,0 +1,46 @@
+#include "lot.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QFileInfo>
+#include <QLocale>
+
+#include "report.h"
+
+namespace {
+
+QString text(const char* english) { return QCoreApplication::translate("report", english); }
+
+QString remark(const LotReport& report, std::size_t wafer) {
+  const QString date = QLocale().toString(QDate::currentDate(), QLocale::ShortFormat);
+  const QString what = text("%1, %2").arg(report.plot.title, date);
+  if (report.wafers.size() == 1) return what;
+  return text("%1, page %2 of %3").arg(what).arg(wafer + 1).arg(report.wafers.size());
+}
+
+}  // namespace
+
+QString LotWafer::name() const { return QFileInfo(file).completeBaseName(); }
+
+void print_lot_page(const LotReport& report, std::size_t wafer,
+                    const std::shared_ptr<mirolen::PlotCanvas>& target) {
+  const LotWafer& printed = report.wafers.at(wafer);
+  mirolen::qt::PlotWidget& plot = *report.plot.plot;
+  if (const int result = printed.load(plot); result != 0)
+    throw mirolen::InvalidArgument(
+        text("The plot refuses the sites of %1 (result %2).").arg(printed.file).arg(result).toStdString());
+  plot.setProperty("PlotCaption", printed.name());
+  fit_to_data(plot);
+  print_page(plot, target, {printed.name(), remark(report, wafer), report.unit});
+}
+
+bool print_lot(const LotReport& report, const std::shared_ptr<mirolen::qt::PrintJob>& job,
+               const LotProgress& go_on) {
+  const std::size_t pages = report.wafers.size();
+  for (std::size_t wafer = 0; wafer < pages; ++wafer) {
+    if (!go_on(static_cast<int>(wafer))) return false;
+    if (wafer > 0) job->new_page();
+    print_lot_page(report, wafer, job);
+  }
+  return go_on(static_cast<int>(pages));
+}
