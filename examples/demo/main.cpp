@@ -1,18 +1,22 @@
 // Loads real wafers by arrays and by a data file, prints their statistics and writes all nine plots as
-// pictures.
+// pictures, and as pages of a report with a lot behind them.
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QtEndian>
 #include <cstdio>
 
-#include "plots.h"
-#include "wafer_file.h"
+#include "lot.h"
 #include "mirolen/qt/Plot2D.h"
+#include "plots.h"
+#include "report.h"
+#include "wafer_file.h"
 
 using mirolen::qt::Plot2D;
 using mirolen::qt::PlotWidget;
+using mirolen::qt::PrintJob;
 
 namespace {
 
@@ -45,6 +49,12 @@ bool print_statistics(Plot2D& map, const QString& path, const QString& name) {
   return true;
 }
 
+QStringList wafer_files(const QDir& folder) {
+  QStringList files = folder.entryList({"*.csv"}, QDir::Files, QDir::Name);
+  files.removeAll("TOOL_STATISTICS.csv");
+  return files;
+}
+
 bool print_all_statistics(const QDir& data) {
   std::printf("%-28s %6s %11s %11s %11s %11s %9s\n", "wafer", "sites", "mean", "std dev", "min", "max",
               "std dev %");
@@ -53,9 +63,8 @@ bool print_all_statistics(const QDir& data) {
     Plot2D map;
     set_up(map, set, {});
     const QDir folder(data.filePath(set.folder));
-    for (const QString& file : folder.entryList({"*.csv"}, QDir::Files, QDir::Name))
-      if (file != "TOOL_STATISTICS.csv")
-        good &= print_statistics(map, folder.filePath(file), folder.dirName() + "/" + file);
+    for (const QString& file : wafer_files(folder))
+      good &= print_statistics(map, folder.filePath(file), folder.dirName() + "/" + file);
   }
   return good;
 }
@@ -74,12 +83,16 @@ bool write_data_file(const SiteList& sites, const QString& path) {
   return file.flush() && written;
 }
 
+void set_diameters(PlotWidget& plot, const WaferSet& set) {
+  plot.setWaferDiameter(set.wafer_diameter);  // first: it empties the data
+  plot.setTestDiameter(set.test_diameter);
+}
+
 /// Writes a picture of one plot of a data file.
 bool write_picture(const NamedPlot& named, const QString& data_file, int sites, const QDir& out) {
   PlotWidget& plot = *named.plot;
   plot.resize(900, 680);
-  plot.setWaferDiameter(sets[1].wafer_diameter);  // first: it empties the data
-  plot.setTestDiameter(sets[1].test_diameter);
+  set_diameters(plot, sets[1]);
   plot.setProperty("PlotCaption", "Film thickness, slot 1 (angstrom)");  // the histogram has none
   mark_sites(plot, true);
   if (plot.SetDataFile(data_file, sites) != 0) return false;
@@ -113,6 +126,45 @@ bool plot_wafer(const QDir& data, const QDir& out) {
   return good;
 }
 
+LotWafer wafer_of(const QString& path) {
+  return {path, [sites = read_csv(path)](PlotWidget& plot) {
+            return plot.SetWaferData(sites.x, sites.y, sites.z);
+          }};
+}
+
+/// Prints pages of one plot, and the time of each.
+void print_pages(const LotReport& report, const WaferSet& set, const std::shared_ptr<PrintJob>& job) {
+  set_diameters(*report.plot.plot, set);
+  QElapsedTimer timer;
+  print_lot(report, job, [&](int finished) {
+    if (finished > 0)
+      std::printf("page %-14s %-18s %6.0f ms\n", qPrintable(report.plot.title),
+                  qPrintable(report.wafers[static_cast<std::size_t>(finished) - 1].name()),
+                  timer.nsecsElapsed() / 1e6);
+    timer.start();
+    return true;
+  });
+}
+
+/// A page of each plot of one wafer, then a colour map of each wafer of a lot.
+void write_report(const QDir& data, const QDir& out) {
+  const QString path = out.filePath("report.pdf");
+  const auto job = PrintJob::pdf(path, report_layout());
+  QWidget owner;
+  const std::vector<NamedPlot> plots = nine_plots(&owner);
+  for (const NamedPlot& named : plots) {
+    mark_sites(*named.plot, true);
+    print_pages({named, {wafer_of(data.filePath("film_300mm/slot1.csv"))}, "angstrom"}, sets[1], job);
+    job->new_page();
+  }
+  const QDir folder(data.filePath(sets[0].folder));
+  LotReport lot{plots[0], {}, "angstrom"};
+  for (const QString& file : wafer_files(folder)) lot.wafers.push_back(wafer_of(folder.filePath(file)));
+  print_pages(lot, sets[0], job);
+  job->finish();
+  std::printf("wrote %s\n", qPrintable(path));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -125,8 +177,9 @@ int main(int argc, char** argv) {
     const QDir data(argv[1]), out(argv[2]);
     if (!out.mkpath(".")) throw WaferFileError("cannot make the folder " + out.path());
     const bool good = print_all_statistics(data) & plot_wafer(data, out);
+    write_report(data, out);
     return good ? 0 : 1;
-  } catch (const WaferFileError& error) {
+  } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
     return 1;
   }
