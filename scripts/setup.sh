@@ -3,7 +3,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev libgl1-mesa-dev libgtest-dev libgmock-dev
-          nlohmann-json3-dev fonts-liberation locales poppler-utils xvfb xauth clang-format python3)
+          nlohmann-json3-dev fonts-liberation poppler-utils locales xvfb xauth clang-format python3)
 
 as_root() {
   if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi

@@ -16,6 +16,7 @@ namespace {
 constexpr double title_points = 12;
 constexpr double rule_top = 340, content_top = 360;
 constexpr double text_line = 185;  // a frame begins and ends a line of text lower than its place
+constexpr double edge = 30;        // what the right edge of a frame takes beyond its width
 constexpr double block_width = 2775, legend_height = 2895, gap = 250;
 constexpr double statistics_height = 2115, size_height = 1155;
 constexpr double beside_plot = 1250;  // what a plot leaves for the orientation mark
@@ -59,6 +60,7 @@ void print_title(const std::shared_ptr<mirolen::PlotCanvas>& target, const PageT
 PagePlan plan_page(double width, double height) {
   if (width < least_page_width || height < least_page_height)
     throw mirolen::InvalidArgument(text("The page is too small for a report.").toStdString());
+  width -= edge;
   PagePlan plan{width, content_top, width, 0, {}, {}, {}};
   if (width > height) {
     const double column = width - block_width;

@@ -1,6 +1,7 @@
 // What becomes of a plot beside being shown: pages of a printer and of files, pictures.
 
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
@@ -19,6 +20,23 @@
 #include "report.h"
 
 using mirolen::qt::PrintJob;
+
+namespace {
+
+/// Puts a file in its place, all of it or nothing. It is not buffered, so that each failing write is known.
+void save_whole(const QString& path, const QByteArray& content) {
+  QSaveFile file(path);
+  bool written = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+  for (QByteArrayView rest = content; written && !rest.isEmpty();) {
+    const qint64 size = file.write(rest.data(), rest.size());
+    written = size > 0;
+    if (written) rest = rest.sliced(size);
+  }
+  if (!written || !file.commit())
+    throw mirolen::FileError(QString(path + ": " + file.errorString()).toStdString());
+}
+
+}  // namespace
 
 void ViewerWindow::add_output_actions(QMenu& menu) {
   const auto add = [&](const QString& text, const QKeySequence& key, auto&& run) {
@@ -92,10 +110,10 @@ bool ViewerWindow::write_svg(const QString& path) {
 
 bool ViewerWindow::write_png(const QString& path) {
   return attempt(tr("The picture could not be written."), [&] {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || !seen_page().named.plot->grab().save(&file, "PNG") ||
-        !file.commit())
-      throw mirolen::FileError((path + ": " + file.errorString()).toStdString());
+    QByteArray picture;
+    QBuffer buffer(&picture);
+    if (!seen_page().named.plot->grab().save(&buffer, "PNG")) throw mirolen::OutOfMemory();
+    save_whole(path, picture);
     return true;
   });
 }
@@ -125,6 +143,10 @@ LotReport ViewerWindow::report(std::vector<LotWafer> wafers, QWidget* owner) {
 }
 
 bool ViewerWindow::attempt(const QString& what, const std::function<bool()>& work) {
+  if (lot_.empty()) {
+    complain(tr("No file is open."));
+    return false;
+  }
   try {
     return work();
   } catch (const std::exception& error) {

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+namespace mirolen::examples_test {
+
+/// What a reader of PDF files finds in one, page by page.
+QStringList texts_of_pages(const QString& pdf);
+
+/// A directory whose files are looked at.
+struct Folder {
+  QString path(const QString& name) const { return directory.filePath(name); }
+  QStringList files() const;
+  QByteArray content(const QString& name) const;
+  void write(const QString& name, const QByteArray& content) const;
+
+  QTemporaryDir directory;
+};
+
+/// While it lives no file can grow beyond a size.
+class FullDisk {
+ public:
+  explicit FullDisk(unsigned long bytes);
+  ~FullDisk();
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+ private:
+  unsigned long before_;
+  void (*handler_)(int);
+};
+
+}  // namespace mirolen::examples_test
