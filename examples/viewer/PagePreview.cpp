@@ -45,10 +45,10 @@ QSize PagePreview::sizeHint() const {
 }
 
 void PagePreview::draw_picture() {
-  const double screen = devicePixelRatioF();
+  screen_ = devicePixelRatioF();
   const QSizeF size = layout_.paintRect(QPageLayout::Point).size() * pixels_of_point;
   try {
-    mirolen::qt::ImageSurface surface({size.width(), size.height()}, zoom_ * screen);
+    mirolen::qt::ImageSurface surface({size.width(), size.height()}, zoom_ * screen_);
     draw_(std::make_shared<mirolen::SurfaceCanvas>(mirolen::CanvasKind::picture_box, &surface));
     picture_ = surface.pixels();
     error_.clear();
@@ -56,11 +56,11 @@ void PagePreview::draw_picture() {
     picture_ = QImage();
     error_ = QString::fromUtf8(error.what());
   }
-  picture_.setDevicePixelRatio(screen);
+  picture_.setDevicePixelRatio(screen_);
 }
 
 void PagePreview::paintEvent(QPaintEvent*) {
-  if (picture_.devicePixelRatio() != devicePixelRatioF()) draw_picture();
+  if (screen_ != devicePixelRatioF()) draw_picture();
   QPainter painter(this);
   const QRectF paper = sheet();
   painter.fillRect(rect(), palette().dark());

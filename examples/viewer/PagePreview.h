@@ -42,6 +42,7 @@ class PagePreview : public QWidget {
   QPageLayout layout_;
   Draw draw_;
   double zoom_ = 1;
+  double screen_ = 1;  // device pixels of a pixel when the picture was drawn
   QImage picture_;
   QString error_;
 };

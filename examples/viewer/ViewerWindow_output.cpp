@@ -4,13 +4,10 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QComboBox>
-#include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QMenuBar>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QPrinterInfo>
 #include <QProgressDialog>
 #include <QSaveFile>
 #include <QTabWidget>
@@ -91,8 +88,10 @@ void ViewerWindow::preview() {
 
 bool ViewerWindow::print_on(QPrinter& printer) {
   return print_page_on(tr("The plot could not be printed."), [&] {
-    if (printer.outputFormat() == QPrinter::NativeFormat && !printer.isValid())
-      throw mirolen::CanvasError(tr("the start of the print job: there is no such printer").toStdString());
+    const QString file = printer.outputFileName();
+    if (!file.isEmpty()) return PrintJob::pdf(file, printer.pageLayout());  // which leaves no part of a file
+    if (printer.outputFormat() != QPrinter::NativeFormat || !printer.isValid())
+      throw mirolen::InvalidArgument(tr("There is no printer.").toStdString());
     return PrintJob::on(printer);
   });
 }

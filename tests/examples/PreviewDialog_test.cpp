@@ -112,7 +112,11 @@ TEST_F(Preview, EndsWithAPrintOrWithout) {
 TEST(PreviewOfAPageThatFails, ShowsTheReason) {
   PagePreview page(report_layout(), [](const auto&) { throw CanvasError("the test"); });
   EXPECT_TRUE(page.picture().isNull());
-  EXPECT_GT(qt_test::colors_in(page.grab().toImage().copy(page.printable().toRect())).size(), 1u);
+  const QImage seen = page.grab().toImage();
+  const double ratio = seen.devicePixelRatio();
+  const QRectF shown = page.printable();
+  const QRect text = QRectF(shown.topLeft() * ratio, shown.size() * ratio).toRect();
+  EXPECT_GT(qt_test::colors_in(seen.copy(text)).size(), 1u);
 }
 
 TEST(PreviewOfTheViewer, ShowsThePageOfThePlotThatIsSeen) {

@@ -110,7 +110,20 @@ TEST_F(Output, PrintsOnAPrinterAndTellsOfOneThatFails) {
   printer.setOutputFileName("/no/such/folder/printed.pdf");
   EXPECT_FALSE(window.print_on(printer));
   ASSERT_EQ(window.complaints.size(), 1);
-  EXPECT_TRUE(window.complaints[0].startsWith("The plot could not be printed."));
+  EXPECT_TRUE(window.complaints[0].contains("/no/such/folder/printed.pdf"));
+
+  printer.setOutputFileName(folder.path("printed.pdf"));
+  const QByteArray printed = folder.content("printed.pdf");
+  {
+    const FullDisk full(2000);
+    EXPECT_FALSE(window.print_on(printer));
+  }
+  EXPECT_EQ(folder.content("printed.pdf"), printed);
+
+  QPrinter nowhere;
+  nowhere.setOutputFormat(QPrinter::PdfFormat);
+  EXPECT_FALSE(window.print_on(nowhere));
+  EXPECT_TRUE(window.complaints.last().contains("There is no printer."));
 }
 
 TEST_F(Output, TellsOfAPageThatIsTooSmall) {
