@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QDate>
 #include <QFileInfo>
-#include <QLocale>
 
 #include "report.h"
 
@@ -12,7 +11,7 @@ namespace {
 QString text(const char* english) { return QCoreApplication::translate("report", english); }
 
 QString remark(const LotReport& report, std::size_t wafer) {
-  const QString date = QLocale().toString(QDate::currentDate(), QLocale::ShortFormat);
+  const QString date = QDate::currentDate().toString(Qt::ISODate);
   const QString what = text("%1, %2").arg(report.plot.title, date);
   if (report.wafers.size() == 1) return what;
   return text("%1, page %2 of %3").arg(what).arg(wafer + 1).arg(report.wafers.size());

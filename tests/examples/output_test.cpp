@@ -18,6 +18,7 @@ namespace {
 using examples_test::Folder;
 using examples_test::FullDisk;
 using examples_test::QuietViewer;
+using examples_test::shown;
 using examples_test::texts_of_pages;
 
 const char* const needing_data[] = {"Print...",      "Print preview...", "Export PDF...", "Export SVG...",
@@ -70,7 +71,7 @@ TEST_F(Output, WritesThePlotThatIsSeenAsPdf) {
   ASSERT_EQ(map.size(), 1);
   for (const char* text :
        {"post_w01", "Colour map", "Statistics", "17.0395", "Size", "49", "Legend", "Notch"})
-    EXPECT_TRUE(map[0].contains(text)) << text;
+    EXPECT_TRUE(map[0].contains(shown(text))) << text;
 
   window.action("Flat").trigger();
   window.tabs().setCurrentIndex(8);
@@ -86,7 +87,7 @@ TEST_F(Output, WritesSvgWithTexts) {
   const QByteArray svg = folder.content("map.svg");
   EXPECT_TRUE(svg.contains("<svg"));
   EXPECT_TRUE(svg.contains("Statistics"));
-  EXPECT_TRUE(svg.contains("17.0395"));
+  EXPECT_TRUE(svg.contains(shown("17.0395").toUtf8()));
 }
 
 TEST_F(Output, WritesAndCopiesThePictureOfTheScreen) {
@@ -106,7 +107,7 @@ TEST_F(Output, PrintsOnAPrinterAndTellsOfOneThatFails) {
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(folder.path("printed.pdf"));
   EXPECT_TRUE(window.print_on(printer));
-  EXPECT_TRUE(texts_of_pages(folder.path("printed.pdf")).value(0).contains("17.0395"));
+  EXPECT_TRUE(texts_of_pages(folder.path("printed.pdf")).value(0).contains(shown("17.0395")));
   printer.setOutputFileName("/no/such/folder/printed.pdf");
   EXPECT_FALSE(window.print_on(printer));
   ASSERT_EQ(window.complaints.size(), 1);

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <QProcess>
 #include <csignal>
 
@@ -29,6 +30,8 @@ unsigned long change_largest_file(unsigned long bytes) {
 }
 
 }  // namespace
+
+QString shown(const char* number) { return QString(number).replace('.', QLocale::system().decimalPoint()); }
 
 QStringList texts_of_pages(const QString& pdf) {
   QStringList pages = output_of("pdftotext", {"-layout", pdf, "-"}).split('\f');

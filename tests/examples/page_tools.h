@@ -6,6 +6,9 @@
 
 namespace mirolen::examples_test {
 
+/// A number as pages show it here: with the decimal mark of this machine.
+QString shown(const char* number);
+
 /// What a reader of PDF files finds in one, page by page.
 QStringList texts_of_pages(const QString& pdf);
 
