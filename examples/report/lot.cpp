@@ -25,12 +25,16 @@ void print_lot_page(const LotReport& report, std::size_t wafer,
                     const std::shared_ptr<mirolen::PlotCanvas>& target) {
   const LotWafer& printed = report.wafers.at(wafer);
   mirolen::qt::PlotWidget& plot = *report.plot.plot;
-  if (const int result = printed.load(plot); result != 0)
-    throw mirolen::InvalidArgument(
-        text("The plot refuses the sites of %1 (result %2).").arg(printed.file).arg(result).toStdString());
-  plot.setProperty("PlotCaption", printed.name());
-  fit_to_data(plot);
-  print_page(plot, target, {printed.name(), remark(report, wafer), report.unit});
+  try {
+    if (const int result = printed.load(plot); result != 0)
+      throw mirolen::InvalidArgument(
+          text("The plot refuses these sites (result %1).").arg(result).toStdString());
+    plot.setProperty("PlotCaption", printed.name());
+    fit_to_data(plot);
+    print_page(plot, target, {printed.name(), remark(report, wafer), report.unit});
+  } catch (const mirolen::RunTimeError& error) {
+    throw mirolen::RunTimeError((printed.file + ": ").toStdString() + error.what());
+  }
 }
 
 bool print_lot(const LotReport& report, const std::shared_ptr<mirolen::qt::PrintJob>& job,

@@ -25,7 +25,7 @@ struct LotReport {
 /// Is told the number of finished pages before each page and at the end. @return whether to go on.
 using LotProgress = std::function<bool(int finished)>;
 
-/// Prints the page of one wafer. @throws mirolen::RunTimeError, with a text for the user.
+/// Prints the page of one wafer. @throws mirolen::RunTimeError, with a text for the user that names its file.
 void print_lot_page(const LotReport& report, std::size_t wafer,
                     const std::shared_ptr<mirolen::PlotCanvas>& target);
 

@@ -140,5 +140,27 @@ TEST_F(Lot, LeavesNoFileWhenItIsCancelled) {
   EXPECT_EQ(texts_of_pages(folder.path("old.pdf")).size(), 3);
 }
 
+TEST_F(Lot, PrintsOddWafers) {
+  const TemporaryFile single("x_mm,y_mm,z\n0,0,5\n", "single.csv");
+  const TemporaryFile level("x_mm,y_mm,z\n0,0,5\n9,0,5\n0,9,5\n-9,0,5\n0,-9,5\n", "level.csv");
+  ASSERT_TRUE(window.open_csv(QStringList{single.path, level.path}));
+  for (int page = 0; page < 9; ++page) {
+    window.tabs().setCurrentIndex(page);
+    EXPECT_TRUE(window.write_lot_report(folder.path("lot.pdf"))) << page;
+    EXPECT_EQ(texts_of_pages(folder.path("lot.pdf")).size(), 2);
+  }
+}
+
+TEST_F(Lot, NamesTheWaferThatCannotBePrinted) {
+  const TemporaryFile balanced("x_mm,y_mm,z\n0,0,0\n9,0,1\n0,9,-1\n-9,0,2\n0,-9,-2\n", "balanced.csv");
+  ASSERT_TRUE(window.open_csv(QStringList{paths()[0], balanced.path, paths()[1]}));
+  window.tabs().setCurrentIndex(
+      2);  // contours, whose interval is in percent of the mean: of 0 there are none
+  EXPECT_FALSE(window.write_lot_report(folder.path("lot.pdf")));
+  ASSERT_EQ(window.complaints.size(), 1);
+  EXPECT_TRUE(window.complaints[0].contains("balanced.csv: division by zero"));
+  EXPECT_TRUE(folder.files().isEmpty());
+}
+
 }  // namespace
 }  // namespace mirolen
