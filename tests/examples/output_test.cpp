@@ -11,12 +11,12 @@
 
 #include "examples/page_tools.h"
 #include "examples/quiet_viewer.h"
+#include "support/FullDisk.h"
 
 namespace mirolen {
 namespace {
 
 using examples_test::Folder;
-using examples_test::FullDisk;
 using examples_test::QuietViewer;
 using examples_test::shown;
 using examples_test::texts_of_pages;

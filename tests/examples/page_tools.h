@@ -22,17 +22,4 @@ struct Folder {
   QTemporaryDir directory;
 };
 
-/// While it lives no file can grow beyond a size.
-class FullDisk {
- public:
-  explicit FullDisk(unsigned long bytes);
-  ~FullDisk();
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  unsigned long before_;
-  void (*handler_)(int);
-};
-
 }  // namespace mirolen::examples_test

@@ -1,17 +1,15 @@
 #include "mirolen/qt/PrintJob.h"
 
-#include <sys/resource.h>
-
 #include <QDir>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
-#include <csignal>
 
 #include "mirolen/qt/Plot2DS.h"
 #include "qt/page_tools.h"
 #include "qt/qt_support.h"
+#include "support/FullDisk.h"
 
 namespace mirolen {
 namespace {
@@ -19,27 +17,6 @@ namespace {
 using namespace qt_test;
 using qt::PrintJob;
 using testing::HasSubstr;
-
-/// No file may grow beyond a size, as long as it lives.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t bytes) : before_signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    rlimit limit = before_;
-    limit.rlim_cur = bytes;
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, before_signal_);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  void (*before_signal_)(int);
-  rlimit before_{};
-};
 
 template <class Step>
 std::string error_of(Step step) {
@@ -402,7 +379,7 @@ TEST_F(PrintJobTest, AFullDiskFailsAtTheEndAndLeavesNothing) {
       for (int i = 0; i < 10; ++i) EXPECT_EQ(face.PrintPlot(0, 0, 9000 + i, 9000, true), 0);
       std::string error;
       {
-        const FileSizeLimit full(room);
+        const FullDisk full(room);
         error = error_of([&] { job->finish(); });
       }
       EXPECT_THAT(error, testing::StartsWith(file.toStdString() + ": "));
