@@ -1,6 +1,7 @@
 #include "mirolen/qt/QtToolkit.h"
 
 #include <QCoreApplication>
+#include <QDialog>
 #include <QFontMetricsF>
 #include <QMessageBox>
 #include <QWidget>
@@ -39,6 +40,7 @@ QtToolkit::QtToolkit(QWidget& face) : face_(face), ratio_(face.devicePixelRatioF
 
 std::unique_ptr<Peer> QtToolkit::make_peer(Widget& widget) {
   if (auto* control = dynamic_cast<UserControl*>(&widget)) return std::make_unique<FacePeer>(*control, face_);
+  if (auto* form = dynamic_cast<Form*>(&widget)) return std::make_unique<FormPeer>(*form, *face_.window());
   return make_child_peer(widget);
 }
 
@@ -65,7 +67,9 @@ SurfaceSize QtToolkit::measure(const FontSpec& font, std::string_view text) cons
 
 void QtToolkit::set_focus(Widget& widget) {
   QWidget* const view = view_of(widget);
-  if (view && view->isVisibleTo(&face_)) view->setFocus(Qt::OtherFocusReason);
+  const Widget* root = &widget;
+  while (root->container()) root = root->container();
+  if (view && view->isVisibleTo(view_of(*root))) view->setFocus(Qt::OtherFocusReason);
 }
 
 void QtToolkit::run_pending_events() { QCoreApplication::processEvents(); }
@@ -77,6 +81,10 @@ void QtToolkit::message_box(const std::string& text, const std::string& title, M
   box.setTextFormat(Qt::PlainText);
   box.setWindowModality(Qt::ApplicationModal);
   box.exec();
+}
+
+void QtToolkit::run_modal(Form& form) {
+  if (auto* dialog = qobject_cast<QDialog*>(view_of(form))) dialog->exec();
 }
 
 SurfaceSize QtToolkit::twips_per_pixel() const { return {qt::twips_per_pixel, qt::twips_per_pixel}; }

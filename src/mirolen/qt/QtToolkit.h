@@ -24,6 +24,7 @@ class QtToolkit : public Toolkit {
   void set_focus(Widget& widget) override;
   void run_pending_events() override;
   void message_box(const std::string& text, const std::string& title, MessageIcon icon) override;
+  void run_modal(Form& form) override;
   SurfaceSize twips_per_pixel() const override;
   Color resolve(Color color) const override;
   std::shared_ptr<PlotCanvas> default_printer() override;

@@ -37,6 +37,7 @@ class ChildPeer : public ViewPeer {
     if (!view_) return;
     view_->setGeometry(place_of(widget_));
     view_->setVisible(widget_.Visible);
+    view_->setEnabled(widget_.Enabled);
     view_->setToolTip(plain_tip(widget_.ToolTipText));
     if (auto* state = dynamic_cast<StateView*>(view_.data())) state->show_state();
     view_->update();
@@ -67,6 +68,9 @@ QWidget* make_view(QWidget& parent, Widget& widget) {
       return new PictureView(parent, dynamic_cast<PictureBox&>(widget));
     case WidgetKind::image_box:
       return new ImageView(parent, dynamic_cast<ImageBox&>(widget));
+    case WidgetKind::option_button:
+    case WidgetKind::check_box:
+    case WidgetKind::form:
     case WidgetKind::user_control:
       break;
   }
@@ -120,6 +124,21 @@ void FacePeer::show_pointer() {
     face_->unsetCursor();
   else
     face_->setCursor(cursor_of(pointer_, icon_.get()));
+}
+
+FormPeer::FormPeer(Form& form, QWidget& owner) : form_(form), view_(new QDialog(&owner)) {
+  QObject::connect(view_, &QDialog::rejected, view_, [&form] {
+    if (form.Visible) form.Close();
+  });
+}
+
+FormPeer::~FormPeer() { delete view_.data(); }
+
+void FormPeer::changed() {
+  if (!view_) return;
+  view_->setWindowTitle(text_of(form_.Caption.get()));
+  view_->setFixedSize(pixels_of(form_.Width), pixels_of(form_.Height));
+  if (!form_.Visible && view_->isVisible()) view_->accept();
 }
 
 }  // namespace mirolen::qt

@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QDialog>
 #include <QPointer>
 #include <QWidget>
 #include <memory>
 
+#include "mirolen/widgets/Form.h"
 #include "mirolen/widgets/Toolkit.h"
-#include "mirolen/widgets/widgets.h"
 
 namespace mirolen::qt {
 
@@ -43,6 +44,20 @@ class FacePeer : public ViewPeer {
   double width_, height_;
   std::int16_t pointer_ = 0;
   std::shared_ptr<const Image> icon_;
+};
+
+/// The peer of a form: a dialog, which ends when the form is hidden.
+class FormPeer : public ViewPeer {
+ public:
+  FormPeer(Form& form, QWidget& owner);
+  ~FormPeer() override;
+
+  QWidget* view() const override { return view_; }
+  void changed() override;
+
+ private:
+  Form& form_;
+  QPointer<QDialog> view_;
 };
 
 }  // namespace mirolen::qt

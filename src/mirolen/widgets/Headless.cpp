@@ -2,6 +2,7 @@
 
 #include <sstream>
 
+#include "mirolen/widgets/Form.h"
 #include "mirolen/widgets/PictureBox.h"
 
 namespace mirolen {
@@ -22,6 +23,12 @@ void HeadlessToolkit::run_pending_events() {
 
 void HeadlessToolkit::message_box(const std::string& text, const std::string& title, MessageIcon icon) {
   messages.push_back({text, title, icon});
+}
+
+void HeadlessToolkit::run_modal(Form& form) {
+  focused = form.FirstFocus;
+  if (on_modal) on_modal(form);
+  if (form.Visible) form.Close();
 }
 
 const Recording& recording_of(const PictureBox& box) {

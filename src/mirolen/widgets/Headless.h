@@ -23,6 +23,9 @@ class HeadlessToolkit : public Toolkit {
   /// Run at each call for pending events.
   std::function<void()> pending_events;
   std::shared_ptr<PlotCanvas> printer;
+  /// Stands in for the user of a form: types, presses, hides. A form that it leaves open is closed, as every
+  /// form is without it.
+  std::function<void(Form&)> on_modal;
   /// The widget that took the focus last.
   const Widget* focused = nullptr;
 
@@ -32,6 +35,7 @@ class HeadlessToolkit : public Toolkit {
   void set_focus(Widget& widget) override { focused = &widget; }
   void run_pending_events() override;
   void message_box(const std::string& text, const std::string& title, MessageIcon icon) override;
+  void run_modal(Form& form) override;
   SurfaceSize twips_per_pixel() const override { return {15, 15}; }
   /// Light grey for every system colour.
   Color resolve(Color color) const override { return color & 0x80000000 ? 0xC0C0C0 : color; }

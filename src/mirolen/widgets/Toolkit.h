@@ -9,6 +9,7 @@
 
 namespace mirolen {
 
+class Form;
 class PictureBox;
 class Widget;
 
@@ -44,6 +45,8 @@ class Toolkit {
   virtual void run_pending_events() = 0;
   /// Shows a message modally and waits for its button.
   virtual void message_box(const std::string& text, const std::string& title, MessageIcon icon) = 0;
+  /// Lets the user work with a form, and with nothing else, until it is hidden. Its peers have been made.
+  virtual void run_modal(Form& form) = 0;
   /// Twips of one pixel of the screen.
   virtual SurfaceSize twips_per_pixel() const = 0;
   /// The colour that a system colour (0x80000000 and its index) stands for; any other colour as it is.

@@ -15,9 +15,12 @@ namespace mirolen {
 
 enum class WidgetKind {
   user_control,
+  form,
   frame,
   label,
   button,
+  option_button,
+  check_box,
   text_field,
   up_down,
   shape,
@@ -41,6 +44,8 @@ class Widget {
 
   Property<Widget, double> Left{*this, 0}, Top{*this, 0}, Width{*this, 0}, Height{*this, 0};
   Property<Widget, bool> Visible{*this, true};
+  /// Takes the user's input; what does not is shown in grey.
+  Property<Widget, bool> Enabled{*this, true};
   Property<Widget, Color> BackColor{*this, button_face};
   Property<Widget, std::string> ToolTipText{*this, {}};
 

@@ -19,6 +19,23 @@ void TextField::Text(const std::string& text) {
   if (OnChange) OnChange();
 }
 
+void OptionButton::Value(bool value) {
+  if (value == value_) return;
+  value_ = value;
+  if (value_)
+    for (Widget* sibling : container()->children())
+      if (auto* other = dynamic_cast<OptionButton*>(sibling); other && other != this) other->Value(false);
+  changed();
+  if (value_ && OnClick) OnClick();
+}
+
+void CheckBox::Value(bool value) {
+  if (value == value_) return;
+  value_ = value;
+  changed();
+  if (OnClick) OnClick();
+}
+
 void UpDown::Value(int value) {
   value = std::clamp(value, Min.get(), Max.get());
   if (value == value_) return;

@@ -30,6 +30,8 @@ class Label : public Widget, public ValueLabel {
   Property<Widget, FontSpec> Font{*this, {}};
   Property<Widget, bool> AutoSize{*this, false};
   Property<Widget, bool> Centered{*this, false};
+  /// The letter of the caption that takes the focus to the widget behind the label; 0 for none.
+  Property<Widget, char> AccessKey{*this, 0};
 
   void caption(const std::string& text) override { Caption = text; }
   void tool_tip(const std::string& text) override { ToolTipText = text; }
@@ -44,6 +46,41 @@ class Button : public Widget {
       : Widget(WidgetKind::button, container), Caption(*this, std::move(text)) {}
 
   Property<Widget, std::string> Caption;
+  /// The letter of the caption that presses the button; 0 for none.
+  Property<Widget, char> AccessKey{*this, 0};
+};
+
+/// A choice among its siblings, the option buttons of the same container: choosing one un-chooses the others.
+/// Choosing another, by program or by the user, raises OnClick.
+class OptionButton : public Widget {
+ public:
+  explicit OptionButton(Widget* container, std::string text = {})
+      : Widget(WidgetKind::option_button, container), Caption(*this, std::move(text)) {}
+
+  Property<Widget, std::string> Caption;
+  /// The letter of the caption that chooses it; 0 for none.
+  Property<Widget, char> AccessKey{*this, 0};
+  bool Value() const { return value_; }
+  void Value(bool value);
+
+ private:
+  bool value_ = false;
+};
+
+/// A box that is ticked or not. Another value, by program or by the user, raises OnClick.
+class CheckBox : public Widget {
+ public:
+  explicit CheckBox(Widget* container, std::string text = {})
+      : Widget(WidgetKind::check_box, container), Caption(*this, std::move(text)) {}
+
+  Property<Widget, std::string> Caption;
+  /// The letter of the caption that ticks and unticks it; 0 for none.
+  Property<Widget, char> AccessKey{*this, 0};
+  bool Value() const { return value_; }
+  void Value(bool value);
+
+ private:
+  bool value_ = false;
 };
 
 /// A line of text that the user edits. Setting another text, by program or by typing, raises OnChange.
@@ -57,6 +94,8 @@ class TextField : public Widget {
   std::function<void()> OnChange;
   /// A key that goes down, by its code: 38 is up, 40 is down.
   std::function<void(int key)> OnKeyDown;
+  /// The focus is about to go to another widget of the form; false keeps it.
+  std::function<bool()> OnLeave;
 
  private:
   std::string text_;

@@ -1,0 +1,32 @@
+#include "mirolen/widgets/Form.h"
+
+namespace mirolen {
+
+Form::Form(Toolkit& toolkit, std::string text)
+    : Widget(WidgetKind::form, toolkit), Caption(*this, std::move(text)) {
+  Visible = false;
+}
+
+void Form::Show() {
+  realize();
+  Visible = true;
+  try {
+    toolkit().run_modal(*this);
+  } catch (...) {
+    Hide();
+    throw;
+  }
+  Hide();
+}
+
+void Form::Close() {
+  if (CancelButton && CancelButton->OnClick) CancelButton->OnClick();
+  Hide();
+}
+
+bool Form::may_leave(const TextField& field, const Widget* to) const {
+  const bool cancelling = to && to == CancelButton;
+  return cancelling || !field.OnLeave || field.OnLeave();
+}
+
+}  // namespace mirolen
