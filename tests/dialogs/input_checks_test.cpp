@@ -70,6 +70,77 @@ TEST(PlainInteger, NumbersWithExponentOrSeparatorAreRefused) {
     EXPECT_FALSE(IsPlainInteger(text)) << text;
 }
 
+// ---- A plain decimal number ----
+
+TEST(PlainDecimal, AnEmptyTextIsRefused) {
+  EXPECT_FALSE(IsPlainDecimal("", true));
+  EXPECT_FALSE(IsPlainDecimal("", false));
+}
+
+TEST(PlainDecimal, ALoneMinusIsRefusedWithAndWithoutTheFlag) {
+  EXPECT_FALSE(IsPlainDecimal("-", true));
+  EXPECT_FALSE(IsPlainDecimal("-", false));
+}
+
+TEST(PlainDecimal, TextThatIsNoNumberIsRefused) {
+  for (const char* word : words) {
+    EXPECT_FALSE(IsPlainDecimal(word, true)) << '"' << word << '"';
+    EXPECT_FALSE(IsPlainDecimal(word, false)) << '"' << word << '"';
+  }
+}
+
+TEST(PlainDecimal, AnExponentIsRefused) {
+  for (const char* text : {"1e3", "1E3", "1d3", "1D3", "1.5e-3"}) {
+    EXPECT_FALSE(IsPlainDecimal(text, true)) << text;
+    EXPECT_FALSE(IsPlainDecimal(text, false)) << text;
+  }
+}
+
+TEST(PlainDecimal, NumbersWithAndWithoutSeparatorPass) {
+  for (const char* text : {"0", "7", "1.5", "1.", ".5", "-1.5", "-7", "+7", " 7 "}) {
+    EXPECT_TRUE(IsPlainDecimal(text, true)) << text;
+    EXPECT_TRUE(IsPlainDecimal(text, false)) << text;
+  }
+}
+
+// ---- A field of a form that is confirmed ----
+
+TEST(NumberFieldCheck, EachFaultHasItsWords) {
+  std::string message;
+  EXPECT_FALSE(CheckNumberField("", 0, 10, message, "Label "));
+  EXPECT_EQ(message, "Label can not be empty\n");
+  message.clear();
+  EXPECT_FALSE(CheckNumberField("abc", 0, 10, message, "Label "));
+  EXPECT_EQ(message, "Label must be numeric\n");
+  message.clear();
+  EXPECT_FALSE(CheckNumberField("11", 0, 10, message, "Label "));
+  EXPECT_EQ(message, "Label not valid\n");
+}
+
+TEST(NumberFieldCheck, LinesAddUp) {
+  std::string message = "before\n";
+  EXPECT_FALSE(CheckNumberField("", 0, 1, message, "A "));
+  EXPECT_TRUE(CheckNumberField("0.5", 0, 1, message, "B "));
+  EXPECT_FALSE(CheckNumberField("2", 0, 1, message, "C"));
+  EXPECT_EQ(message, "before\nA can not be empty\nCnot valid\n");
+}
+
+TEST(NumberFieldCheck, BothLimitsAreExclusive) {
+  std::string message;
+  for (const char* text : {"-1", "0", "10", "10.0", "1e1", "11", "0.0"})
+    EXPECT_FALSE(CheckNumberField(text, 0, 10, message, "")) << text;
+  message.clear();
+  for (const char* text : {"0.0001", "9.9999", "1e0", " 5 "})
+    EXPECT_TRUE(CheckNumberField(text, 0, 10, message, "")) << text;
+  EXPECT_EQ(message, "");
+}
+
+TEST(NumberFieldCheck, NothingLiesInAnEmptyInterval) {
+  std::string message;
+  EXPECT_FALSE(CheckNumberField("5", 5, 5, message, ""));
+  EXPECT_FALSE(CheckNumberField("5", 6, 4, message, ""));
+}
+
 // ---- Decimal comma ----
 
 /// A locale with a decimal comma for one test; afterwards everything is as before.
@@ -97,6 +168,15 @@ TEST_F(InputWithDecimalComma, TheCommaSeparates) {
 TEST_F(InputWithDecimalComma, ThePointMakesNoNumber) {
   EXPECT_TRUE(IsInRangeOrOpen("1.5", 5, 6));
   EXPECT_TRUE(IsInRangeOrOpen("1.000", 5, 6));
+}
+
+TEST_F(InputWithDecimalComma, ADecimalNumberHasTheComma) {
+  EXPECT_TRUE(IsPlainDecimal("1,5", false));
+  EXPECT_FALSE(IsPlainDecimal("1.5", false));
+  std::string message;
+  EXPECT_TRUE(CheckNumberField("1,5", 1, 2, message, "L "));
+  EXPECT_FALSE(CheckNumberField("1.5", 1, 2, message, "L "));
+  EXPECT_EQ(message, "L must be numeric\n");
 }
 
 TEST_F(InputWithDecimalComma, APlainWholeNumberHasNeither) {

@@ -72,6 +72,25 @@ bool IsPlainInteger(std::string_view text) {
   return text.empty() || (numeric(text) && text.find_first_of("eE,.dD") == std::string_view::npos);
 }
 
+bool IsPlainDecimal(std::string_view text, bool minus_allowed) {
+  if (text.empty()) return false;
+  if (!minus_allowed && text == "-") return false;
+  return numeric(text) && text.find_first_of("eEdD") == std::string_view::npos;
+}
+
+bool CheckNumberField(std::string_view text, double low, double high, std::string& message,
+                      std::string_view label) {
+  const auto refuse = [&](const char* reason) {
+    message.append(label).append(reason).append("\n");
+    return false;
+  };
+  if (text.empty()) return refuse("can not be empty");
+  const std::optional<double> value = numeric(text);
+  if (!value) return refuse("must be numeric");
+  if (!(*value > low && *value < high)) return refuse("not valid");
+  return true;
+}
+
 double number_in(std::string_view text) { return numeric(text).value_or(0); }
 
 }  // namespace mirolen
