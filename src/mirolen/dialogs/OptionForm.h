@@ -1,0 +1,98 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "mirolen/core/wafer.h"
+#include "mirolen/dialogs/Rows.h"
+#include "mirolen/dialogs/input_fields.h"
+#include "mirolen/widgets/ControlArray.h"
+#include "mirolen/widgets/Form.h"
+
+namespace mirolen {
+
+/// What all option forms share. A control gives one the values in force (`SetValues`), shows it, asks
+/// `Redraw` whether the user has confirmed, and reads the `Get` members. The form changes nothing by itself;
+/// bad input keeps it open.
+class OptionForm : public Form {
+ public:
+  /// True only after an OK that passed all checks.
+  bool Redraw() const { return redraw_; }
+
+ protected:
+  /// What OK asks of a field: a number strictly between two limits.
+  struct NumberCheck {
+    NumberField& field;
+    const char* label;
+    double low, high;
+    const char* unit;
+  };
+  /// A choice of site marks: hide, show.
+  using Marks = ControlArray<OptionButton, 0, 2>;
+
+  explicit OptionForm(Toolkit& toolkit) : Form(toolkit, "Define Plot Options") {}
+
+  /// The checks of OK, in the order of their messages.
+  virtual std::vector<NumberCheck> checks() = 0;
+  /// Whether what was entered is good; if not, the user has been told.
+  virtual bool is_good();
+  /// Starts with a wafer, which outlives the form. The fields have their values.
+  void begin_with(wafer& shown);
+  /// test_diam / part + 1, as a whole number: the upper limit of a resolution.
+  double limit(double part) const;
+  /// Lets two buttons, which are placed beside the form's groups or below them, answer the form.
+  void answer_with(Button& ok, Button& cancel);
+  void place_at_right(Button& ok, Button& cancel, const Widget& group);
+  void place_below(Button& ok, Button& cancel, double right, double top);
+  void input_error(const std::string& text);
+
+  /// The caption of an option and its access key.
+  struct OptionName {
+    const char* caption;
+    char key;
+  };
+  template <class Options>
+  static void name(const Options& options, std::initializer_list<OptionName> names) {
+    int i = Options::LBound();
+    for (const OptionName& told : names) {
+      options(i).Caption = told.caption;
+      options(i++).AccessKey = told.key;
+    }
+  }
+  static void name_marks(const Marks& marks) { name(marks, {{"Hide", 'H'}, {"Show", 'S'}}); }
+  static void show_marks(const Marks& marks, bool shown) { marks(shown ? 1 : 0).Value(true); }
+  static bool marks_shown(const Marks& marks) { return marks(1).Value(); }
+  /// Chooses the option of a number; none where there is no such option.
+  template <class Options>
+  static void choose(const Options& options, int number) {
+    for (int i = Options::LBound(); i <= Options::UBound(); ++i) options(i).Value(i == number);
+  }
+  /// The number of the chosen option, or one for none.
+  template <class Options>
+  static std::int16_t chosen(const Options& options, std::int16_t otherwise) {
+    for (int i = Options::LBound(); i <= Options::UBound(); ++i)
+      if (options(i).Value()) return static_cast<std::int16_t>(i);
+    return otherwise;
+  }
+  static void show_background(CheckBox& white, Color back);
+  static Color background_of(const CheckBox& white);
+
+  /// Draws a preview while there is a wafer; one that cannot be drawn is left out.
+  template <class Draw>
+  void show_preview(Draw draw) const {
+    if (!wafer_) return;
+    try {
+      draw();
+    } catch (const RunTimeError&) {
+    }
+  }
+
+  wafer* wafer_ = nullptr;
+
+ private:
+  void tell_ranges();
+
+  bool redraw_ = false;
+};
+
+}  // namespace mirolen

@@ -1,0 +1,49 @@
+#include "mirolen/dialogs/frmPlotOpt2DC.h"
+
+namespace mirolen {
+
+frmPlotOpt2DC::frmPlotOpt2DC(Toolkit& toolkit) : OptionForm(toolkit) {
+  lbldist.AccessKey = 'I';
+  whiteback.AccessKey = 'W';
+  name_options();
+  place_groups();
+  answer_with(OKbtn, cancel);
+  FirstFocus = &tdist;
+}
+
+void frmPlotOpt2DC::name_options() {
+  name(OptQuali, {{"Low", 'L'}, {"High", 'H'}, {"Automatic", 'A'}});
+  name(OptExcon, {{"Exact", 'E'}, {"Converted", 'v'}, {"None", 'N'}});
+  name(Optcol, {{"Black and white", 'B'}, {"Three colors", 'T'}, {"Ten colors", 'c'}});
+}
+
+void frmPlotOpt2DC::place_groups() {
+  frmplot.Move(Rows::gap, Rows::gap);
+  Rows rows(frmplot);
+  rows.add(lbldist, tdist);
+  rows.add(whiteback, Rows::option_height);
+  frmquali.Move(Rows::gap, frmplot.Top + frmplot.Height + Rows::gap);
+  Rows(frmquali).add_options(OptQuali);
+  const double second = frmplot.Left + frmplot.Width + Rows::gap;
+  frmmark.Move(second, Rows::gap);
+  Rows(frmmark).add_options(OptExcon);
+  frmcol.Move(second, frmmark.Top + frmmark.Height + Rows::gap);
+  Rows(frmcol).add_options(Optcol);
+  place_below(OKbtn, cancel, second + frmcol.Width, frmcol.Top + frmcol.Height + Rows::gap);
+}
+
+void frmPlotOpt2DC::SetValues(wafer& wafer, double dist, std::int16_t reso, std::int16_t mark_sites,
+                              std::int16_t show_color, Color back) {
+  tdist.show(dist);
+  choose(OptQuali, reso_ = reso);
+  choose(OptExcon, marks_ = mark_sites);
+  choose(Optcol, color_ = show_color);
+  show_background(whiteback, back);
+  begin_with(wafer);
+}
+
+std::vector<OptionForm::NumberCheck> frmPlotOpt2DC::checks() {
+  return {{tdist, "Interval ", 0.009, 1000, "unit of the interval"}};
+}
+
+}  // namespace mirolen
