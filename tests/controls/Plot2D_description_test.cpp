@@ -32,15 +32,11 @@ constexpr MemberKind method = MemberKind::method, getter = MemberKind::get, lett
                      setter = MemberKind::set;
 
 const Told methods[] = {
-    {"SetWaferData", method, "rrr", Type::int16},
-    {"SetDataFile", method, "rr", Type::int16},
-    {"GetWaferData", method, "rrr", Type::real},
-    {"Plot", method, "", Type::int16},
-    {"clear", method, "", Type::none},
-    {"SetPlotLimit", method, "rr", Type::boolean},
-    {"ReleasePlotLimit", method, "", Type::none},
-    {"Interpolation", method, "rr", Type::real},
-    {"SetPlotNotVaild", method, "", Type::none},
+    {"SetWaferData", method, "rrr", Type::int16},  {"SetDataFile", method, "rr", Type::int16},
+    {"GetWaferData", method, "rrr", Type::real},   {"Plot", method, "", Type::int16},
+    {"ShowPlotOption", method, "", Type::none},    {"clear", method, "", Type::none},
+    {"SetPlotLimit", method, "rr", Type::boolean}, {"ReleasePlotLimit", method, "", Type::none},
+    {"Interpolation", method, "rr", Type::real},   {"SetPlotNotVaild", method, "", Type::none},
 };
 
 const Told read_only[] = {
@@ -65,10 +61,9 @@ const Told settings[] = {
     {"PrinterObj", setter, "", Type::object},
 };
 
-// Members that come with printing, the option form and the About form.
-const char* const later[] = {"ShowPlotOption", "About",       "PrintPlot",
-                             "PrintGridPlot",  "PrintLegend", "PrintWaferStatistic",
-                             "PrintWaferSize"};
+// Members that come with printing and the About form.
+const char* const later[] = {"About",       "PrintPlot",           "PrintGridPlot",
+                             "PrintLegend", "PrintWaferStatistic", "PrintWaferSize"};
 
 std::string references_of(const MemberInfo& member) {
   std::string letters;

@@ -220,8 +220,36 @@ TEST(PlotWidget, FollowsANewPalette) {
   EXPECT_EQ(pixel(legend, legend.width() - 1, 0), 0x302010u);
 }
 
+/// Closes every form that opens, as long as it lives, and counts them.
+class FormCloser : public QTimer {
+ public:
+  FormCloser() {
+    QObject::connect(this, &QTimer::timeout, this, [this] {
+      if (QWidget* const shown = QApplication::activeModalWidget()) {
+        ++closed;
+        title = shown->windowTitle();
+        shown->close();
+      }
+    });
+    start(10);
+  }
+  int closed = 0;
+  QString title;
+};
+
+TEST(PlotWidget, ShowsItsOptionsAndTakesTheirClosingForCancel) {
+  ShownPlot plot;
+  plot.face.setResolution(10);
+  FormCloser user;
+  plot.face.ShowPlotOption();
+  EXPECT_EQ(user.closed, 1);
+  EXPECT_EQ(user.title, "Define Plot Options");
+  EXPECT_EQ(plot.face.Resolution(), 10);
+}
+
 TEST(PlotWidget, GivesItsMessagesToTheHost) {
   ShownPlot plot;
+  FormCloser user;
   QStringList told;
   plot.face.toolkit().on_message = [&](const QString& text, const QString& title, MessageIcon) {
     told << title << text;
@@ -231,6 +259,7 @@ TEST(PlotWidget, GivesItsMessagesToTheHost) {
   plot.face.Plot();
   ASSERT_EQ(told.size(), 2);
   EXPECT_EQ(told[1], "Maximal possible resolution is 20 mm");
+  EXPECT_EQ(user.closed, 1);
 }
 
 TEST(PlotWidget, ShowsItsMessagesInABoxOverTheWindow) {

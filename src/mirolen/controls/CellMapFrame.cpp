@@ -32,6 +32,7 @@ void CellMapFrame::prepare_redraw() {
   notify("Resolution");
   toolkit().message_box("Maximal possible resolution is " + StringFormat::plain_text(finest) + " mm",
                         "Standard resolution to high ", MessageIcon::critical);
+  ShowPlotOption();
 }
 
 }  // namespace mirolen

@@ -19,7 +19,8 @@ class CellMapFrame : public MapFrame {
   using MapFrame::MapFrame;
 
   void fill_in_settings() override;
-  /// Holds the resolution to a quarter of the test diameter, which it tells by a message.
+  /// Holds the resolution to a quarter of the test diameter; then it tells so by a message and asks for the
+  /// options.
   void prepare_redraw() override;
   std::int16_t marks() const { return static_cast<std::int16_t>(show_sites_); }
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "mirolen/core/GlobalFunctions.h"
+#include "mirolen/dialogs/OptionForm.h"
 
 namespace mirolen {
 namespace {
@@ -96,6 +97,18 @@ std::int16_t ControlFrame::Plot() {
   fill_in_settings();
   show_plot();
   return 0;
+}
+
+void ControlFrame::ShowPlotOption() {
+  quietly([&] { ask_options(); });
+}
+
+bool ControlFrame::confirmed(OptionForm& form) {
+  if (asking_) return false;
+  asking_ = true;
+  quietly([&] { form.Show(); });
+  asking_ = false;
+  return form.Redraw();
 }
 
 bool ControlFrame::SetPlotLimit(double LPL, double UPL) {

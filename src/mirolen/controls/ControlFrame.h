@@ -14,6 +14,8 @@
 
 namespace mirolen {
 
+class OptionForm;
+
 /// What all plot controls share: their wafer, its data, limits, statistics and diameters, and their notices.
 ///
 /// The order for a host: `WaferDiameter` (it empties the store), `TestDiameter`, `SetWaferData` or
@@ -45,6 +47,9 @@ class ControlFrame : public UserControl {
   std::int16_t Plot();
   /// Erases the drawing; the data stay.
   virtual void clear() = 0;
+  /// Lets the user change how the plot is drawn, in a modal form, and draws it if he confirms. Nothing
+  /// happens while that form is shown already.
+  void ShowPlotOption();
   /// Makes the next `Plot` or change of size draw afresh.
   void SetPlotNotVaild() { PlotValid = false; }
 
@@ -147,6 +152,12 @@ class ControlFrame : public UserControl {
   /// Whether new data keep the ends of the scale.
   virtual bool keeps_limits() const { return PlotLimitSet; }
 
+  /// Asks with the control's form, takes the answers and draws; may throw. A control without a form does
+  /// nothing.
+  virtual void ask_options() {}
+  /// Shows a form, unless one is shown already. @return whether the user has confirmed.
+  bool confirmed(OptionForm& form);
+
   /// Runs the resize handler; an error ends it without a word.
   void resize_handler();
   /// Gives the control at least this size, inside its resize handler and without running that again.
@@ -198,6 +209,7 @@ class ControlFrame : public UserControl {
 
   Container& container_;
   bool sizing_itself_ = false;
+  bool asking_ = false;
 };
 
 }  // namespace mirolen

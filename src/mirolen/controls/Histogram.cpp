@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "mirolen/controls/Hourglass.h"
+#include "mirolen/dialogs/frmPlotHist.h"
 #include "mirolen/render/ControlLimits.h"
 
 namespace mirolen {
@@ -20,6 +21,7 @@ Histogram::Histogram(Toolkit& toolkit, Container& container) : ControlFrame(tool
   OnEnterFocus = [this] {
     if (Command1.Visible) Command1.SetFocus();
   };
+  Command1.OnClick = [this] { ShowPlotOption(); };
   Command1.Move(0, 0, 1935, 420);
   PLOTA.Move(900, 150, 3000, 2000);
   PLOTA.BackColor = QBColor(15);
@@ -202,6 +204,18 @@ std::int16_t Histogram::PrintPlot_THN(double left, double top, double width, dou
     page.Print_Histo_THN(static_cast<std::int16_t>(plot_type_), wafobj, left, top, width, height, resolution_,
                          0, frmhist.Caption);
   });
+}
+
+void Histogram::ask_options() {
+  frmPlotHist form(toolkit());
+  form.SetValues(wafobj, resolution_, PLOTA.BackColor);
+  if (!confirmed(form)) return;
+  Resolution(form.GetResolution());
+  if (const Color back = form.GetBackColor(); back != PLOTA.BackColor) {
+    PLOTA.BackColor = back;
+    BackColor(back);
+  }
+  if (wafobj.GetNop() > 0) RedrawPlot();
 }
 
 }  // namespace mirolen

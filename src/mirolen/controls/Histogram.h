@@ -66,6 +66,7 @@ class Histogram : public ControlFrame {
  protected:
   void fill_in_settings() override {}
   void show_plot() override;
+  void ask_options() override;
   void lay_out() override;
   void wipe_drawing() override;
   void forget_snapshot() override {}

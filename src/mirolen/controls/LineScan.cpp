@@ -40,6 +40,7 @@ LineScan::LineScan(Toolkit& toolkit, Container& container) : ControlFrame(toolki
   OnEnterFocus = [this] {
     if (btnoptions.Visible) btnoptions.SetFocus();
   };
+  btnoptions.OnClick = [this] { ShowPlotOption(); };
   AngleValue.OnChange = [this] {
     quietly([&] { angle_text_changed(); });
     if (angle_ != told_angle_) tell_angle();

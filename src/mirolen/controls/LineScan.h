@@ -8,6 +8,8 @@
 
 namespace mirolen {
 
+class frmPlotOpt1D;
+
 /// The marks of the sites on the curve of a line scan.
 class MarkArray : public SiteMarks {
  public:
@@ -96,6 +98,7 @@ class LineScan : public ControlFrame {
  protected:
   void fill_in_settings() override {}
   void show_plot() override;
+  void ask_options() override;
   /// A form without a scale mode does not end the handler here.
   void set_scale_of_host() override {
     quietly([this] { ControlFrame::set_scale_of_host(); });
@@ -119,6 +122,7 @@ class LineScan : public ControlFrame {
   void angle_text_changed();
   void angle_key(int key);
   void place_labels();
+  void take_line(const frmPlotOpt1D& form);
   bool line_mode() const { return plot_type_ == PlotTypeEnumLineScan::vbline; }
 
   PlotTypeEnumLineScan plot_type_ = PlotTypeEnumLineScan::vbAngle;

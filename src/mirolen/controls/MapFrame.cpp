@@ -19,6 +19,7 @@ MapFrame::MapFrame(Toolkit& toolkit, Container& container) : ControlFrame(toolki
   OnEnterFocus = [this] {
     if (Command1.Visible) Command1.SetFocus();
   };
+  Command1.OnClick = [this] { ShowPlotOption(); };
   place_children();
 }
 
@@ -88,6 +89,12 @@ void MapFrame::BackColor(Color v) {
   color_legend(v);
   if (PlotShown) quietly([&] { show_orientation(); });  // its picture was erased to the new background
   notify("BackColor");
+}
+
+void MapFrame::take_background(Color v) {
+  if (v == PLOTA.BackColor) return;
+  PLOTA.BackColor = v;
+  BackColor(v);
 }
 
 void MapFrame::PlotCaption(const std::string& v) {

@@ -72,6 +72,8 @@ class MapFrame : public ControlFrame {
   virtual void size_legend();
   /// What happens to a control that cannot take its smallest size.
   virtual void give_up_size() {}
+  /// Takes the background that the user has chosen for the plot, for all surfaces.
+  void take_background(Color v);
   /// Runs RedrawPlot; an error ends it without a word.
   void redraw_quietly() {
     quietly([&] { RedrawPlot(); });

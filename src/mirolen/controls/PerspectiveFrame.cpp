@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "mirolen/dialogs/ViewOptions.h"
+
 namespace mirolen {
 namespace {
 
@@ -37,6 +39,12 @@ void PerspectiveFrame::GridRotation(std::int16_t v) {
 void PerspectiveFrame::GridInclination(std::int16_t v) {
   grid_inclination_ = in_range(v, beyond_right_angle, default_inclination);
   look_changed("GridInclination");
+}
+
+void PerspectiveFrame::take_view(const ViewOptions& form) {
+  GridRotation(form.GetAlp());
+  WaferRotation(form.GetPhi());
+  GridInclination(form.GetThet());
 }
 
 void PerspectiveFrame::show_orientation() {

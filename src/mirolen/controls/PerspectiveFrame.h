@@ -4,6 +4,8 @@
 
 namespace mirolen {
 
+class ViewOptions;
+
 /// What the three plots in perspective share: the angles of the view, and turning it by dragging the mouse
 /// over the plot. While the user drags, the plot is drawn on a coarse grid; on release in full.
 class PerspectiveFrame : public MapFrame {
@@ -32,6 +34,8 @@ class PerspectiveFrame : public MapFrame {
   void draw_plot() final { draw_view(false); }
   /// Draws the plot, coarse while the user drags.
   virtual void draw_view(bool coarse) = 0;
+  /// Takes the angles that the user has entered.
+  void take_view(const ViewOptions& form);
   /// The step of the coarse grid in millimetres.
   double coarse_step() const { return to_int16(wafobj.test_diam / 9); }
 

@@ -1,5 +1,7 @@
 #include "mirolen/controls/Plot2D.h"
 
+#include "mirolen/dialogs/frmPlotOpt2d.h"
+
 namespace mirolen {
 
 Plot2D::Plot2D(Toolkit& toolkit, Container& container) : CellMapFrame(toolkit, container) { realize(); }
@@ -29,6 +31,16 @@ std::int16_t Plot2D::PrintGridPlot(double left, double top, double width, double
   return print_plot(least_map, least_map, [&](PrintWafer& page) {
     page.Print_GridPosPlot(wafobj, left, top, width, height, PlotCaption());
   });
+}
+
+void Plot2D::ask_options() {
+  frmPlotOpt2d form(toolkit());
+  form.SetValues(wafobj, Resolution(), marks() != 0, PLOTA.BackColor);
+  if (!confirmed(form)) return;
+  Resolution(form.GetXRes());
+  ShowSites(form.GetMarkeSites() ? Sites::ShowSite : Sites::HideSite);
+  take_background(form.GetBackColor());
+  RedrawPlot();
 }
 
 }  // namespace mirolen

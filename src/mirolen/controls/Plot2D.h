@@ -18,6 +18,7 @@ class Plot2D : public CellMapFrame {
 
  protected:
   void show_plot() override { resize_handler(); }
+  void ask_options() override;
   void draw_plot() override;
 };
 

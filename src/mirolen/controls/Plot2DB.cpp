@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "mirolen/dialogs/frmPlotOpt2DB.h"
+
 namespace mirolen {
 namespace {
 
@@ -58,6 +60,18 @@ std::int16_t Plot2DB::PrintPlot(double left, double top, double width, double he
     page.Print_2DBPlot(wafobj, left, top, width, height, beam_width_, beam_height_, beam_scale_,
                        GridRotation(), WaferRotation(), GridInclination(), PlotCaption(), DrawFrame);
   });
+}
+
+void Plot2DB::ask_options() {
+  frmPlotOpt2DB form(toolkit());
+  form.SetValues(wafobj, beam_width_, beam_height_, beam_scale_, GridRotation(), WaferRotation(),
+                 GridInclination());
+  if (!confirmed(form)) return;
+  BeamWidth(form.GetResx());
+  BeamHeight(form.GetResy());
+  BeamScale(form.GetPlotSccale());
+  take_view(form);
+  RedrawPlot();
 }
 
 }  // namespace mirolen

@@ -26,6 +26,7 @@ class Plot2DB : public PerspectiveFrame {
  protected:
   void fill_in_settings() override;
   void show_plot() override { resize_handler(); }
+  void ask_options() override;
   void draw_view(bool coarse) override;
 
  private:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "mirolen/dialogs/frmPlotOpt2DC.h"
 #include "mirolen/render/ContourInterval.h"
 #include "mirolen/render/Screen.h"
 #include "mirolen/render/StringFormat.h"
@@ -173,6 +174,20 @@ std::int16_t Plot2DC::PrintPlot_THN(double left, double top, double width, doubl
                            static_cast<std::int16_t>(marksites_), static_cast<std::int16_t>(resolution_),
                            static_cast<std::int16_t>(plot_colored_), PlotCaption(), no_text, DrawFrame);
   });
+}
+
+void Plot2DC::ask_options() {
+  frmPlotOpt2DC form(toolkit());
+  form.SetValues(wafobj, interval_, static_cast<std::int16_t>(resolution_),
+                 static_cast<std::int16_t>(marksites_), static_cast<std::int16_t>(plot_colored_),
+                 PLOTA.BackColor);
+  if (!confirmed(form)) return;
+  Interval(form.GetDist());
+  Resolution(static_cast<ResoEnum>(form.GetReso()));
+  marksites(static_cast<ExconEnum>(form.GetMarkeSites()));
+  PlotColored(static_cast<DrawColEnum>(form.GetShowColor()));
+  take_background(form.GetBackColor());
+  RedrawPlot();
 }
 
 }  // namespace mirolen

@@ -54,6 +54,7 @@ class Plot2DC : public MapFrame {
   Label lbldist{&frInt};
 
  protected:
+  void ask_options() override;
   void fill_in_settings() override;
   void show_plot() override { resize_handler(); }
   void draw_plot() override;

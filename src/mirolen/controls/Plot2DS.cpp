@@ -1,5 +1,7 @@
 #include "mirolen/controls/Plot2DS.h"
 
+#include "mirolen/dialogs/frmPlotOpt2ds.h"
+
 namespace mirolen {
 
 Plot2DS::Plot2DS(Toolkit& toolkit, Container& container) : SigmaLegend(toolkit, container) { realize(); }
@@ -25,6 +27,17 @@ std::int16_t Plot2DS::PrintPlot(double left, double top, double width, double he
     page.Print_2DSigmaPlot(wafobj, left, top, width, height, Resolution(), SigmaRange(), PlotCaption(),
                            marks(), DrawFrame);
   });
+}
+
+void Plot2DS::ask_options() {
+  frmPlotOpt2ds form(toolkit());
+  form.SetValues(wafobj, Resolution(), marks() != 0, PLOTA.BackColor, SigmaRange());
+  if (!confirmed(form)) return;
+  Resolution(form.GetXRes());
+  ShowSites(form.GetMarkeSites() ? Sites::ShowSite : Sites::HideSite);
+  SigmaRange(form.GetSigRange());
+  take_background(form.GetBackColor());
+  show_plot();
 }
 
 }  // namespace mirolen

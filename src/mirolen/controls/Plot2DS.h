@@ -16,6 +16,7 @@ class Plot2DS : public SigmaLegend<CellMapFrame> {
   void InitProperties() override;
 
  protected:
+  void ask_options() override;
   void draw_plot() override;
 };
 

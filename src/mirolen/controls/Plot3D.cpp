@@ -1,5 +1,6 @@
 #include "mirolen/controls/Plot3D.h"
 
+#include "mirolen/dialogs/frmPlotOpt3d.h"
 #include "mirolen/render/ColorScale.h"
 
 namespace mirolen {
@@ -50,6 +51,16 @@ std::int16_t Plot3D::PrintPlot(double left, double top, double width, double hei
                       YResolution(), PlotScale(), GridRotation(), WaferRotation(), GridInclination(),
                       PlotCaption(), DrawFrame);
   });
+}
+
+void Plot3D::ask_options() {
+  frmPlotOpt3d form(toolkit());
+  form.SetValues(wafobj, XResolution(), YResolution(), PlotScale(), GridRotation(), WaferRotation(),
+                 GridInclination(), static_cast<std::int16_t>(plot_type_), PLOTA.BackColor);
+  if (!confirmed(form)) return;
+  take_surface(form);
+  PlotType(static_cast<PlotTypeEnum>(form.GetPlotType()));
+  RedrawPlot();
 }
 
 }  // namespace mirolen

@@ -27,6 +27,7 @@ class Plot3D : public SurfaceFrame {
   void fill_legend() override;
   void color_legend(Color v) override { frInt.BackColor = v; }
   void show_plot() override { resize_handler(); }
+  void ask_options() override;
   void draw_view(bool coarse) override { draw_surface(coarse, static_cast<std::int16_t>(plot_type_), 0); }
 
  private:

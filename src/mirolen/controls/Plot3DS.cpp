@@ -1,5 +1,7 @@
 #include "mirolen/controls/Plot3DS.h"
 
+#include "mirolen/dialogs/frmPlotOpt3ds.h"
+
 namespace mirolen {
 
 Plot3DS::Plot3DS(Toolkit& toolkit, Container& container) : SigmaLegend(toolkit, container) { realize(); }
@@ -30,6 +32,16 @@ std::int16_t Plot3DS::PrintPlot(double left, double top, double width, double he
                            GridRotation(), WaferRotation(), GridInclination(), SigmaRange(), PlotCaption(),
                            DrawFrame);
   });
+}
+
+void Plot3DS::ask_options() {
+  frmPlotOpt3ds form(toolkit());
+  form.SetValues(wafobj, XResolution(), YResolution(), PlotScale(), GridRotation(), WaferRotation(),
+                 GridInclination(), SigmaRange(), PLOTA.BackColor);
+  if (!confirmed(form)) return;
+  take_surface(form);
+  SigmaRange(form.GetSigRange());
+  show_plot();
 }
 
 }  // namespace mirolen

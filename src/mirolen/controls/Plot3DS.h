@@ -17,6 +17,7 @@ class Plot3DS : public SigmaLegend<SurfaceFrame> {
   void InitProperties() override;
 
  protected:
+  void ask_options() override;
   void draw_view(bool coarse) override;
 };
 

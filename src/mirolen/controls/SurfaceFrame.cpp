@@ -1,5 +1,7 @@
 #include "mirolen/controls/SurfaceFrame.h"
 
+#include "mirolen/dialogs/SurfaceOptions.h"
+
 namespace mirolen {
 namespace {
 
@@ -32,6 +34,14 @@ void SurfaceFrame::PlotScale(std::int16_t v) {
 void SurfaceFrame::fill_in_settings() {
   if (x_resolution_ == 0) XResolution(default_step);
   if (y_resolution_ == 0) YResolution(default_step);
+}
+
+void SurfaceFrame::take_surface(const SurfaceOptions& form) {
+  XResolution(form.GetResx());
+  YResolution(form.GetResy());
+  PlotScale(to_int16(form.GetPlotSccale()));
+  take_view(form);
+  take_background(form.GetBackColor());
 }
 
 void SurfaceFrame::draw_surface(bool coarse, std::int16_t style, double sigma_range) {

@@ -4,6 +4,8 @@
 
 namespace mirolen {
 
+class SurfaceOptions;
+
 /// What the surface and the sigma surface share: the steps of their grid and their height.
 class SurfaceFrame : public PerspectiveFrame {
  public:
@@ -22,6 +24,8 @@ class SurfaceFrame : public PerspectiveFrame {
   using PerspectiveFrame::PerspectiveFrame;
 
   void fill_in_settings() override;
+  /// Takes steps, height, angles and background that the user has entered.
+  void take_surface(const SurfaceOptions& form);
   /// Draws with a style of `D3Plot`.
   void draw_surface(bool coarse, std::int16_t style, double sigma_range);
 

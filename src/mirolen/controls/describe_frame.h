@@ -41,6 +41,8 @@ void data(ClassBuilder<Control>& tell) {
 template <class Control>
 void plotting(ClassBuilder<Control>& tell) {
   tell.method("Plot", "draws; 0, or 1 without data", {}, [](Control& c) { return c.Plot(); })
+      .method("ShowPlotOption", "lets the user change how the plot is drawn", {},
+              [](Control& c) { c.ShowPlotOption(); })
       .method("clear", "erases the drawing, keeps the data", {}, [](Control& c) { c.clear(); })
       .method("SetPlotNotVaild", "makes the next plot draw afresh", {},
               [](Control& c) { c.SetPlotNotVaild(); })

@@ -95,6 +95,7 @@ class PlotWidget : public QWidget {
 
  public slots:
   int Plot() { return frame().Plot(); }
+  void ShowPlotOption() { frame().ShowPlotOption(); }
   void clear() { control_->clear(); }
   bool SetPlotLimit(double LPL, double UPL) { return frame().SetPlotLimit(LPL, UPL); }
   void ReleasePlotLimit() { frame().ReleasePlotLimit(); }
