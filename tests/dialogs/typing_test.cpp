@@ -70,10 +70,14 @@ bool within(const frmPlotOpt2DB& f) {
 }
 bool steps_within(const SurfaceOptions& f) {
   return between(0.001, f.GetResx(), 51) && between(0.001, f.GetResy(), 51) &&
-         between(1e-7, f.GetPlotSccale(), 1000) && angles_within(f) && white_or_face(f.GetBackColor());
+         between(1e-7, f.GetPlotSccale(), 1000) && angles_within(f);
 }
-bool within(const frmPlotOpt3d& f) { return steps_within(f) && f.GetPlotType() >= 1 && f.GetPlotType() <= 3; }
-bool within(const frmPlotOpt3ds& f) { return steps_within(f) && between(0.001, f.GetSigRange(), 1000); }
+bool within(const frmPlotOpt3d& f) {
+  return steps_within(f) && f.GetPlotType() >= 1 && f.GetPlotType() <= 3 && white_or_face(f.GetBackColor());
+}
+bool within(const frmPlotOpt3ds& f) {
+  return steps_within(f) && between(0.001, f.GetSigRange(), 1000) && white_or_face(f.GetBackColor());
+}
 bool within(const frmPlotHist& f) {
   return between(1, f.GetResolution(), 1000) && white_or_face(f.GetBackColor());
 }

@@ -47,8 +47,8 @@ class ControlFrame : public UserControl {
   std::int16_t Plot();
   /// Erases the drawing; the data stay.
   virtual void clear() = 0;
-  /// Lets the user change how the plot is drawn, in a modal form, and draws it if he confirms. Nothing
-  /// happens while that form is shown already.
+  /// Lets the user change how the plot is drawn, in a modal form, and draws it when that is confirmed.
+  /// Nothing happens while the form is shown already.
   void ShowPlotOption();
   /// Makes the next `Plot` or change of size draw afresh.
   void SetPlotNotVaild() { PlotValid = false; }

@@ -60,6 +60,7 @@ void Plot3D::ask_options() {
   if (!confirmed(form)) return;
   take_surface(form);
   PlotType(static_cast<PlotTypeEnum>(form.GetPlotType()));
+  take_background(form.GetBackColor());
   RedrawPlot();
 }
 

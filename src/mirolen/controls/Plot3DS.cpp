@@ -41,6 +41,7 @@ void Plot3DS::ask_options() {
   if (!confirmed(form)) return;
   take_surface(form);
   SigmaRange(form.GetSigRange());
+  take_background(form.GetBackColor());
   show_plot();
 }
 

@@ -41,7 +41,6 @@ void SurfaceFrame::take_surface(const SurfaceOptions& form) {
   YResolution(form.GetResy());
   PlotScale(to_int16(form.GetPlotSccale()));
   take_view(form);
-  take_background(form.GetBackColor());
 }
 
 void SurfaceFrame::draw_surface(bool coarse, std::int16_t style, double sigma_range) {

@@ -24,7 +24,7 @@ class SurfaceFrame : public PerspectiveFrame {
   using PerspectiveFrame::PerspectiveFrame;
 
   void fill_in_settings() override;
-  /// Takes steps, height, angles and background that the user has entered.
+  /// Takes the steps, the height and the angles that the user has entered.
   void take_surface(const SurfaceOptions& form);
   /// Draws with a style of `D3Plot`.
   void draw_surface(bool coarse, std::int16_t style, double sigma_range);

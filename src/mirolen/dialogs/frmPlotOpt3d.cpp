@@ -6,8 +6,8 @@ frmPlotOpt3d::frmPlotOpt3d(Toolkit& toolkit) : SurfaceOptions(toolkit, "3D Plot"
   whiteback.AccessKey = 'b';
   name(optPlot, {{"Poly Edge", 'P'}, {"Hidden Wire Frame", 'H'}, {"Wire Frame", 'W'}});
   Rows rows = place_plot_group();
-  rows.add(whiteback, Rows::option_height);
   rows.add_group(frmtype, optPlot);
+  rows.add(whiteback, Rows::option_height);
   place_all(OKbtn, cancel);
   answer_with(OKbtn, cancel);
 }

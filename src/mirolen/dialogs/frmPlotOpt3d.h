@@ -14,9 +14,12 @@ class frmPlotOpt3d : public SurfaceOptions {
                  std::int16_t thet, std::int16_t plot_type, Color back);
   /// A look without an option comes back unless the user chooses one.
   std::int16_t GetPlotType() const { return chosen(optPlot, plot_type_); }
+  /// White, or the system's colour of a button's face.
+  Color GetBackColor() const { return background_of(whiteback); }
 
   Frame frmtype{&frmplot, "Plot Type:"};
   ControlArray<OptionButton, 1, 3> optPlot{&frmtype};
+  CheckBox whiteback{&frmplot, "White background"};
   Button OKbtn{this, "OK"};
   Button cancel{this, "Cancel"};
 

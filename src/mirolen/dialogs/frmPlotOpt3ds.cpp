@@ -6,8 +6,8 @@ frmPlotOpt3ds::frmPlotOpt3ds(Toolkit& toolkit) : SurfaceOptions(toolkit, "3D Sig
   whiteback.AccessKey = 'b';
   lblsigma.AccessKey = 'g';
   Rows rows = place_plot_group();
-  rows.add(whiteback, Rows::option_height);
   rows.add(lblsigma, SSigma);
+  rows.add(whiteback, Rows::option_height);
   place_all(OKbtn, cancel);
   answer_with(OKbtn, cancel);
 }

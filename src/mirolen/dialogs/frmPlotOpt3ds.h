@@ -14,9 +14,12 @@ class frmPlotOpt3ds : public SurfaceOptions {
   void SetValues(wafer& wafer, double resx, double resy, double scale, std::int16_t alp, std::int16_t phi,
                  std::int16_t thet, double sigma_range, Color back);
   double GetSigRange() const { return SSigma.value(); }
+  /// White, or the system's colour of a button's face.
+  Color GetBackColor() const { return background_of(whiteback); }
 
   Label lblsigma{&frmplot, "Sigma Range:"};
   NumberField SSigma{&frmplot};
+  CheckBox whiteback{&frmplot, "White background"};
   Button OKbtn{this, "OK"};
   Button cancel{this, "Cancel"};
 
