@@ -46,6 +46,7 @@ const Members of_all{{"SetWaferData", call_of(Type::int16, "&x &y &Z")},
                      {"ReleasePlotLimit", call_of(Type::none)},
                      {"Interpolation", call_of(Type::real, "&x &y")},
                      {"SetPlotNotVaild", call_of(Type::none)},
+                     {"About", call_of(Type::none)},
                      {"mean", value(Type::real)},
                      {"Maximum", value(Type::real)},
                      {"Minimum", value(Type::real)},
@@ -157,10 +158,10 @@ Members own<LineScan>() {
                  {"GetLineOrAngle", call_of(Type::int16, "&angle &StartX &StartY &EndX &EndY")}};
 }
 
-// Members that come with printing, the option forms and the About form, where a control has them.
-const char* const later[] = {
-    "ShowPlotOption", "About",         "PrintPlot",       "PrintPlot_THN", "PrintWaferStatistic",
-    "PrintWaferSize", "PrintGridPlot", "PrintGridNumber", "PrintLegend",   "PrintLegend_No_Frame"};
+// Members that come with printing and the option forms, where a control has them.
+const char* const later[] = {"ShowPlotOption",      "PrintPlot",      "PrintPlot_THN",
+                             "PrintWaferStatistic", "PrintWaferSize", "PrintGridPlot",
+                             "PrintGridNumber",     "PrintLegend",    "PrintLegend_No_Frame"};
 
 std::string arguments_of(const MemberInfo& member) {
   std::string text;

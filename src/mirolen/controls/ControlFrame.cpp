@@ -4,6 +4,7 @@
 
 #include "mirolen/core/GlobalFunctions.h"
 #include "mirolen/dialogs/OptionForm.h"
+#include "mirolen/dialogs/frmAbout.h"
 
 namespace mirolen {
 namespace {
@@ -174,6 +175,14 @@ void ControlFrame::TestDiameter(double v) {
 void ControlFrame::WaferStyle(WaferSt v) {
   wafobj.flat_ratio = v == WaferSt::Flat ? flat_ratio_of_a_flat : 1.0;
   look_changed("WaferStyle");
+}
+
+void ControlFrame::About() {
+  quietly([&] {
+    frmAbout box(toolkit());
+    box.SetTitle(about_type());
+    box.Show();
+  });
 }
 
 std::int32_t ControlFrame::hwnd() const {

@@ -120,6 +120,9 @@ class ControlFrame : public UserControl {
   /// Prints the block of the wafer's size. @return as `PrintWaferStatistic`.
   std::int16_t PrintWaferSize(double left, double top);
 
+  /// Shows the About box, and comes back when the user has closed it.
+  void About();
+
   /// The settings of a control that is new to its form.
   virtual void InitProperties() = 0;
 
@@ -138,6 +141,8 @@ class ControlFrame : public UserControl {
 
   static constexpr double flat_ratio_of_a_flat = 0.98;
 
+  /// The number of the control's kind in the About box.
+  virtual std::int16_t about_type() const = 0;
   /// The settings that `Plot` fills in beyond those of all controls.
   virtual void fill_in_settings() = 0;
   /// The last step of `Plot`.

@@ -64,6 +64,7 @@ class Histogram : public ControlFrame {
   PictureBox copypic{this};
 
  protected:
+  std::int16_t about_type() const override { return 7; }
   void fill_in_settings() override {}
   void show_plot() override;
   void ask_options() override;

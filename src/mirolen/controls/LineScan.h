@@ -96,6 +96,7 @@ class LineScan : public ControlFrame {
   Button btnoptions{this, "Plot- Options"};
 
  protected:
+  std::int16_t about_type() const override { return 6; }
   void fill_in_settings() override {}
   void show_plot() override;
   void ask_options() override;

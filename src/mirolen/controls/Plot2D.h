@@ -17,6 +17,7 @@ class Plot2D : public CellMapFrame {
   void InitProperties() override;
 
  protected:
+  std::int16_t about_type() const override { return 1; }
   void show_plot() override { resize_handler(); }
   void ask_options() override;
   void draw_plot() override;

@@ -24,6 +24,7 @@ class Plot2DB : public PerspectiveFrame {
   void InitProperties() override;
 
  protected:
+  std::int16_t about_type() const override { return 9; }
   void fill_in_settings() override;
   void show_plot() override { resize_handler(); }
   void ask_options() override;

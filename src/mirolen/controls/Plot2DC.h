@@ -55,6 +55,7 @@ class Plot2DC : public MapFrame {
 
  protected:
   void ask_options() override;
+  std::int16_t about_type() const override { return 5; }
   void fill_in_settings() override;
   void show_plot() override { resize_handler(); }
   void draw_plot() override;

@@ -18,6 +18,7 @@ class Plot2DN : public MapFrame {
   void InitProperties() override;
 
  protected:
+  std::int16_t about_type() const override { return 8; }
   void fill_in_settings() override {}
   void show_plot() override { resize_handler(); }
   void draw_plot() override;

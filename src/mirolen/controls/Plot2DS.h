@@ -17,6 +17,7 @@ class Plot2DS : public SigmaLegend<CellMapFrame> {
 
  protected:
   void ask_options() override;
+  std::int16_t about_type() const override { return 3; }
   void draw_plot() override;
 };
 

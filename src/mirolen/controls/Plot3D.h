@@ -23,6 +23,7 @@ class Plot3D : public SurfaceFrame {
   Label lbldist{&frInt};
 
  protected:
+  std::int16_t about_type() const override { return 2; }
   void fill_in_settings() override;
   void fill_legend() override;
   void color_legend(Color v) override { frInt.BackColor = v; }

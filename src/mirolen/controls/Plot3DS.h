@@ -18,6 +18,7 @@ class Plot3DS : public SigmaLegend<SurfaceFrame> {
 
  protected:
   void ask_options() override;
+  std::int16_t about_type() const override { return 4; }
   void draw_view(bool coarse) override;
 };
 

@@ -53,6 +53,11 @@ void plotting(ClassBuilder<Control>& tell) {
 }
 
 template <class Control>
+void about(ClassBuilder<Control>& tell) {
+  tell.method("About", "shows the About box", {}, [](Control& c) { c.About(); });
+}
+
+template <class Control>
 void wafer_and_window(ClassBuilder<Control>& tell) {
   tell.enumeration({"WaferSt", {{"Flat", 2}, {"Notch", 1}}})
       .property("WaferDiameter", "mm; setting it empties the store", &Control::WaferDiameter,
@@ -167,6 +172,7 @@ ClassBuilder<Control> frame(const char* name) {
   plotting(tell);
   wafer_and_window(tell);
   printing(tell);
+  about(tell);
   events(tell);
   return tell;
 }

@@ -100,6 +100,7 @@ class PlotWidget : public QWidget {
   bool SetPlotLimit(double LPL, double UPL) { return frame().SetPlotLimit(LPL, UPL); }
   void ReleasePlotLimit() { frame().ReleasePlotLimit(); }
   void SetPlotNotVaild() { control_->SetPlotNotVaild(); }
+  void About() { frame().About(); }
   void InitProperties() { frame().InitProperties(); }
 
   // Printing throws RunTimeError where the target fails.

@@ -1,0 +1,46 @@
+#include "mirolen/dialogs/frmAbout.h"
+
+#include <array>
+
+#include "mirolen/core/version.h"
+#include "mirolen/dialogs/control_icons.h"
+
+namespace mirolen {
+namespace {
+
+constexpr std::array texts{"2D Plot",          "3D Plot",   "2D Sigma Range Plot", "3D Sigma Range Plot",
+                           "2D Contour Plot ", "Line Scan", "Histogram",           "2D Value Plot",
+                           "3D Bar Plot"};
+
+}  // namespace
+
+frmAbout::frmAbout(Toolkit& toolkit) : Form(toolkit, "Sonvera.OCX ActiveX Control") {
+  const SurfaceSize pixel = toolkit.twips_per_pixel();
+  Width = 5400;
+  Height = 2340;
+  picIcon.Move(240, 240, icon_side * pixel.width, icon_side * pixel.height);
+  lblTitle.Move(960, 240, 4200, 270);
+  lblTitle.Font = FontSpec{.bold = true};
+  lblVersion.Move(960, 570, 4200, 270);
+  lblDescription.Move(960, 960, 4200, 600);
+  cmdOK.Move(4020, 1785, 1140, 375);
+
+  const Version running = version();
+  lblVersion.Caption = "Version " + std::to_string(running.major) + "." + std::to_string(running.minor);
+  lblDescription.Caption =
+      "MirolenViewWM, plots of wafer measurements.\nThe MirolenViewWM authors, MIT License.";
+  cmdOK.OnClick = [this] { Hide(); };
+  DefaultButton = &cmdOK;
+  CancelButton = &cmdOK;
+  FirstFocus = &cmdOK;
+}
+
+void frmAbout::SetTitle(std::int16_t type) {
+  std::string title = "Sonvera.OCX Type: ";
+  if (type >= 1 && static_cast<std::size_t>(type) <= texts.size())
+    title += texts[static_cast<std::size_t>(type - 1)];
+  draw_control_icon(picIcon, type);
+  lblTitle.Caption = title;
+}
+
+}  // namespace mirolen
