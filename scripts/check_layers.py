@@ -11,7 +11,7 @@ USES = {
     "automation": {"core"},
     "render": {"core"},
     "widgets": {"core", "render"},
-    "dialogs": {"core", "render", "widgets"},
+    "dialogs": {"core", "automation", "render", "widgets"},
     "print": {"core", "render", "widgets"},
     "controls": {"core", "automation", "render", "widgets", "dialogs", "print"},
     "qt": {"core", "automation", "render", "widgets", "dialogs", "print", "controls"},

@@ -1,0 +1,56 @@
+#include "mirolen/dialogs/WaferInfoProp.h"
+
+#include <cmath>
+#include <limits>
+
+#include "mirolen/dialogs/input_checks.h"
+
+namespace mirolen {
+namespace {
+
+constexpr int notch = 1;
+constexpr double picture_side = 34;  // pixels
+
+float single_precision(double value) {
+  if (std::abs(value) > std::numeric_limits<float>::max()) throw OverflowError("single precision");
+  return static_cast<float>(value);
+}
+
+}  // namespace
+
+WaferInfoProp::WaferInfoProp(Widget* container) : PropertyPage(container, "Wafer Size") {
+  name(nfbox, {"Notch", "Flat"});
+  FNLabel.Centered = true;
+  Rows rows(*this);
+  rows.add(lblWaferDiameter, txtWaferDiameter);
+  rows.add(lblTestDiameter, txtTestDiameter);
+  rows.add_options(nfbox);
+  rows.add_picture(FNPic, picture_side * toolkit().twips_per_pixel().width);
+  rows.add(FNLabel, Rows::option_height);
+  rows.add(showLeg, Rows::option_height);
+
+  shows(txtWaferDiameter, "WaferDiameter", is_decimal, 200);
+  shows(txtTestDiameter, "TestDiameter", is_decimal, 195);
+  choice(nfbox, "WaferStyle", [this] { show_mark(); });
+  tick(showLeg, "HideLegend", true, false);
+}
+
+void WaferInfoProp::show_mark() {
+  shown_.flat_ratio = nfbox(notch).Value() ? 1 : 0.98;
+  double x0 = 0, y0 = 0;
+  shown_.FlatNotchShow(&FNLabel, FNPic, x0, y0, 0, 0, 90);
+}
+
+bool WaferInfoProp::write_together(const automation::Object& control) {
+  const double diameter = number_in(txtWaferDiameter.Text()), test = number_in(txtTestDiameter.Text());
+  if (single_precision(diameter) < single_precision(test)) {
+    toolkit().message_box("Wafer diamter can not be less than test diameter", "Input Error",
+                          MessageIcon::none);
+    return false;
+  }
+  let(control, "WaferDiameter", diameter);
+  let(control, "TestDiameter", test);
+  return true;
+}
+
+}  // namespace mirolen

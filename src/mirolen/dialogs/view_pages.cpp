@@ -1,0 +1,45 @@
+#include "mirolen/dialogs/view_pages.h"
+
+#include "mirolen/dialogs/input_checks.h"
+#include "mirolen/dialogs/view_preview.h"
+
+namespace mirolen {
+namespace {
+
+constexpr double preview_side = 1500;
+
+}  // namespace
+
+ViewPage::ViewPage(Widget* container, const char* text) : PropertyPage(container, text), rows(*this) {
+  rows.add(lblXResolution, txtXResolution);
+  rows.add(lblYResolution, txtYResolution);
+  rows.add(lblPlotScale, txtPlotScale);
+  rows.add(lblGridInclination, txtGridInclination);
+  rows.add(lblGridRotation, txtGridRotation);
+  rows.add(lblWaferRotation, txtWaferRotation);
+  rows.add_picture(Plot, preview_side);
+
+  number(txtXResolution, "XResolution", 5);
+  number(txtYResolution, "YResolution", 5);
+  number(txtPlotScale, "PlotScale", 40);
+  angle(txtGridInclination, "GridInclination", 35, [this] { show_grid(); });
+  angle(txtGridRotation, "GridRotation", 40, [this] { show_grid(); });
+  angle(txtWaferRotation, "WaferRotation", 40);
+}
+
+void ViewPage::show_grid() {
+  DrawViewPreview(Plot, number_in(txtGridRotation.Text()), number_in(txtGridInclination.Text()));
+}
+
+Plot3DProp::Plot3DProp(Widget* container) : ViewPage(container, "3D Plot") {
+  name(optPlot, {"Polygons", "Hidden wire frame", "Wire frame"});
+  rows.add_group(frmplot, optPlot);
+  choice(optPlot, "PlotType");
+}
+
+Plot3DSProp::Plot3DSProp(Widget* container) : ViewPage(container, "3D Sigma Range Plot") {
+  rows.add(lblSigmaRange, txtSigmaRange);
+  number(txtSigmaRange, "SigmaRange", 0.5);
+}
+
+}  // namespace mirolen
