@@ -8,7 +8,7 @@ namespace mirolen {
 /// column, and makes the group as high as they need.
 class Rows {
  public:
-  static constexpr double gap = 120, label_width = 1440, field_width = 960;
+  static constexpr double gap = 120, label_width = 1560, field_width = 960;
   static constexpr double group_width = gap + label_width + field_width + gap;
 
   explicit Rows(Frame& group, double width = group_width);

@@ -1,0 +1,305 @@
+#include "mirolen/dialogs/PropertyDialog.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+#include "fake_control.h"
+#include "mirolen/dialogs/WaferInfoProp.h"
+#include "mirolen/dialogs/plan_pages.h"
+#include "mirolen/dialogs/view_pages.h"
+#include "mirolen/widgets/Headless.h"
+
+namespace mirolen {
+namespace {
+
+using Names = std::vector<std::string>;
+using Writes = FakeControl::Writes;
+
+Names names_of(const PropertyPage::Selection& selected) {
+  Names names;
+  for (const PageKind* kind : pages_for(selected)) names.emplace_back(kind->name);
+  return names;
+}
+
+class Pages : public testing::Test {
+ protected:
+  PropertyPage::Selection select(const Names& classes) {
+    PropertyPage::Selection selected;
+    for (const std::string& name : classes) {
+      infos_[name].name = name;
+      selected.push_back({&infos_[name], nullptr});
+    }
+    return selected;
+  }
+
+ private:
+  std::map<std::string, automation::ClassInfo> infos_;
+};
+
+TEST_F(Pages, ServeTheControlWhoseNameTheyBear) {
+  const std::map<std::string, Names> served{{"LineScan", {"WaferInfoProp", "LineScanAngleProp"}},
+                                            {"Plot2D", {"WaferInfoProp", "Plot2DProp"}},
+                                            {"Plot2DS", {"WaferInfoProp", "Plot2DSProp"}},
+                                            {"Plot2DC", {"WaferInfoProp", "Plot2DCProp"}},
+                                            {"Plot2DN", {"WaferInfoProp"}},
+                                            {"Plot2DB", {"WaferInfoProp"}},
+                                            {"Plot3D", {"WaferInfoProp", "Plot3DProp"}},
+                                            {"Plot3DS", {"WaferInfoProp", "Plot3DSProp"}},
+                                            {"Histogram", {"WaferInfoProp", "HistogrammProp"}}};
+  for (const auto& [control, pages] : served) EXPECT_EQ(names_of(select({control})), pages) << control;
+  EXPECT_EQ(page_kinds().size(), 8u);
+}
+
+TEST_F(Pages, OfSeveralControlsAreThoseThatServeAll) {
+  EXPECT_EQ(names_of(select({"Plot3D", "Plot3D"})), (Names{"WaferInfoProp", "Plot3DProp"}));
+  EXPECT_EQ(names_of(select({"Plot3D", "Plot2D"})), (Names{"WaferInfoProp"}));
+  EXPECT_EQ(names_of(select({"Plot2DN", "Plot2DN", "Histogram"})), (Names{"WaferInfoProp"}));
+}
+
+TEST_F(Pages, OfNothingAndOfOtherObjectsAreNone) {
+  EXPECT_EQ(names_of({}), Names{});
+  EXPECT_EQ(names_of(select({"wafer"})), Names{});
+  EXPECT_EQ(names_of(select({"Plot2D", "wafer"})), Names{});
+}
+
+class PropertyDialogTest : public testing::Test {
+ protected:
+  /// The dialog in the hands of a user.
+  void shown_to(const std::function<void(PropertyDialog&)>& user, const PropertyPage::Selection& selected) {
+    bool seen = false;
+    toolkit.on_modal = [&](Form& form) {
+      seen = true;
+      user(dynamic_cast<PropertyDialog&>(form));
+    };
+    PropertyDialog dialog(toolkit, selected);
+    dialog.Show();
+    EXPECT_TRUE(seen);
+    EXPECT_FALSE(dialog.Visible);
+  }
+  void shown_to(const std::function<void(PropertyDialog&)>& user) { shown_to(user, {control.object()}); }
+
+  static WaferInfoProp& wafer_page(PropertyDialog& dialog) {
+    return dynamic_cast<WaferInfoProp&>(dialog.page(0));
+  }
+  static Plot2DProp& plot_page(PropertyDialog& dialog) { return dynamic_cast<Plot2DProp&>(dialog.page(1)); }
+
+  HeadlessToolkit toolkit;
+  FakeControl control = fake_Plot2D();
+};
+
+TEST_F(PropertyDialogTest, ShowsOnePageAtATime) {
+  shown_to([](PropertyDialog& dialog) {
+    ASSERT_EQ(dialog.pages(), 2);
+    EXPECT_TRUE(dialog.page(0).Visible);
+    EXPECT_FALSE(dialog.page(1).Visible);
+    EXPECT_TRUE(dialog.tab(0).Value());
+    dialog.tab(1).Value(true);
+    EXPECT_FALSE(dialog.page(0).Visible);
+    EXPECT_TRUE(dialog.page(1).Visible);
+    dialog.tab(0).Value(true);
+    EXPECT_TRUE(dialog.page(0).Visible);
+    EXPECT_FALSE(dialog.page(1).Visible);
+    EXPECT_FALSE(dialog.apply.Enabled);
+  });
+}
+
+TEST_F(PropertyDialogTest, HasNoPageBesideItsOwn) {
+  PropertyDialog dialog(toolkit, {control.object()});
+  for (const int index : {-1, 2}) {
+    EXPECT_THROW(dialog.page(index), SubscriptOutOfRange);
+    EXPECT_THROW(dialog.tab(index), SubscriptOutOfRange);
+  }
+}
+
+TEST_F(PropertyDialogTest, OffersApplyWhileSomethingIsChanged) {
+  shown_to([&](PropertyDialog& dialog) {
+    EXPECT_FALSE(dialog.apply.Enabled);
+    plot_page(dialog).txtResolution.Text("6");
+    EXPECT_TRUE(dialog.apply.Enabled);
+    dialog.apply.OnClick();
+    EXPECT_FALSE(dialog.apply.Enabled);
+    EXPECT_TRUE(dialog.Visible);
+    EXPECT_EQ(control["Resolution"], automation::Variant(6.0));
+    wafer_page(dialog).showLeg.Value(true);
+    EXPECT_TRUE(dialog.apply.Enabled);
+  });
+  EXPECT_EQ(control["HideLegend"], automation::Variant(false));
+}
+
+TEST_F(PropertyDialogTest, OkWritesTheChangedPagesAlone) {
+  shown_to([](PropertyDialog& dialog) {
+    plot_page(dialog).chkShowSites.Value(true);
+    dialog.OKbtn.OnClick();
+    EXPECT_FALSE(dialog.Visible);
+  });
+  EXPECT_EQ(control.writes, (Writes{{"Resolution", 5.0}, {"ShowSites", std::int32_t{-1}}}));
+}
+
+TEST_F(PropertyDialogTest, OkWithoutAnEditWritesNothing) {
+  shown_to([](PropertyDialog& dialog) { dialog.OKbtn.OnClick(); });
+  EXPECT_EQ(control.writes, Writes{});
+}
+
+TEST_F(PropertyDialogTest, CancelAndClosingChangeNothing) {
+  const auto edit = [](PropertyDialog& dialog) {
+    wafer_page(dialog).txtWaferDiameter.Text("100");
+    wafer_page(dialog).nfbox(2).Value(true);
+    plot_page(dialog).txtResolution.Text("");
+  };
+  shown_to([&](PropertyDialog& dialog) {
+    edit(dialog);
+    dialog.cancel.OnClick();
+    EXPECT_FALSE(dialog.Visible);
+  });
+  shown_to(edit);
+  EXPECT_EQ(control.writes, Writes{});
+}
+
+TEST_F(PropertyDialogTest, RefusedDiametersKeepItOpenAtTheirPage) {
+  shown_to([&](PropertyDialog& dialog) {
+    wafer_page(dialog).txtTestDiameter.Text("250");
+    wafer_page(dialog).nfbox(2).Value(true);
+    dialog.tab(1).Value(true);
+    plot_page(dialog).txtResolution.Text("7");
+    dialog.OKbtn.OnClick();
+    EXPECT_TRUE(dialog.Visible);
+    EXPECT_TRUE(dialog.page(0).Visible);
+    EXPECT_EQ(toolkit.messages.size(), 1u);
+    EXPECT_EQ(wafer_page(dialog).txtTestDiameter.Text(), "250");
+    EXPECT_TRUE(dialog.apply.Enabled);
+    EXPECT_EQ(control["Resolution"], automation::Variant(7.0));
+    EXPECT_EQ(control["WaferStyle"], automation::Variant(std::int32_t{2}));
+    EXPECT_EQ(control["TestDiameter"], automation::Variant(194.0));
+    wafer_page(dialog).txtTestDiameter.Text("150");
+    dialog.OKbtn.OnClick();
+    EXPECT_FALSE(dialog.Visible);
+  });
+  EXPECT_EQ(control["TestDiameter"], automation::Variant(150.0));
+  EXPECT_EQ(toolkit.messages.size(), 1u);
+}
+
+TEST_F(PropertyDialogTest, ApplyShowsWhatTheControlHolds) {
+  FakeControl surface = fake_Plot3D();
+  shown_to(
+      [&](PropertyDialog& dialog) {
+        auto& page = dynamic_cast<Plot3DProp&>(dialog.page(1));
+        page.txtPlotScale.Text("99999");
+        dialog.apply.OnClick();
+        EXPECT_EQ(page.txtPlotScale.Text(), "40");
+        EXPECT_FALSE(dialog.apply.Enabled);
+      },
+      {surface.object()});
+}
+
+TEST_F(PropertyDialogTest, OfDifferentControlsHasTheCommonPageOfTheFirst) {
+  FakeControl other = fake_Plot3D();
+  other.put("WaferDiameter", 300.0);
+  shown_to(
+      [](PropertyDialog& dialog) {
+        EXPECT_EQ(dialog.pages(), 1);
+        EXPECT_EQ(wafer_page(dialog).txtWaferDiameter.Text(), "300");
+        wafer_page(dialog).txtTestDiameter.Text("290");
+        dialog.OKbtn.OnClick();
+      },
+      {other.object(), control.object()});
+  EXPECT_EQ(other["TestDiameter"], automation::Variant(290.0));
+  EXPECT_EQ(control.writes, Writes{});
+}
+
+TEST_F(PropertyDialogTest, OfNothingCanBeClosed) {
+  shown_to(
+      [](PropertyDialog& dialog) {
+        EXPECT_EQ(dialog.pages(), 0);
+        EXPECT_FALSE(dialog.apply.Enabled);
+        dialog.OKbtn.OnClick();
+      },
+      {});
+}
+
+TEST_F(PropertyDialogTest, AnswersTheKeyboard) {
+  PropertyDialog dialog(toolkit, {control.object()});
+  EXPECT_EQ(dialog.DefaultButton, &dialog.OKbtn);
+  EXPECT_EQ(dialog.CancelButton, &dialog.cancel);
+  EXPECT_EQ(dialog.FirstFocus, &dialog.tab(0));
+}
+
+/// One control of each class that has a page of its own.
+std::vector<FakeControl> all_fakes() {
+  std::vector<FakeControl> fakes;
+  fakes.push_back(fake_LineScan());
+  fakes.push_back(fake_Plot2D());
+  fakes.push_back(fake_Plot2DS());
+  fakes.push_back(fake_Plot2DC());
+  fakes.push_back(fake_Plot3D());
+  fakes.push_back(fake_Plot3DS());
+  fakes.push_back(fake_Histogram());
+  return fakes;
+}
+
+TEST_F(PropertyDialogTest, HasDifferentAccessKeysFromItsCaptions) {
+  for (FakeControl& fake : all_fakes()) {
+    PropertyDialog dialog(toolkit, {fake.object()});
+    std::set<char> keys{dialog.apply.AccessKey.get()};
+    EXPECT_NE(dialog.apply.Caption.get().find(dialog.apply.AccessKey), std::string::npos);
+    for (int i = 0; i < dialog.pages(); ++i) {
+      const char key = dialog.tab(i).AccessKey;
+      EXPECT_NE(dialog.tab(i).Caption.get().find(key), std::string::npos);
+      EXPECT_TRUE(keys.insert(key).second) << key;
+    }
+  }
+}
+
+void expect_inside_and_apart(const Widget& container) {
+  const auto apart = [](const Widget& a, const Widget& b) {
+    return a.Left + a.Width <= b.Left || b.Left + b.Width <= a.Left || a.Top + a.Height <= b.Top ||
+           b.Top + b.Height <= a.Top;
+  };
+  const auto& children = container.children();
+  for (const Widget* one : children) {
+    EXPECT_LE(one->Left + one->Width, container.Width);
+    EXPECT_LE(one->Top + one->Height, container.Height);
+    for (const Widget* other : children) {
+      const bool pages = dynamic_cast<const PropertyPage*>(one) && dynamic_cast<const PropertyPage*>(other);
+      EXPECT_TRUE(one == other || pages || apart(*one, *other));
+    }
+    expect_inside_and_apart(*one);
+  }
+}
+
+/// The caption of a widget and the room that it leaves for it.
+std::pair<std::string, double> caption_of(const Widget& widget) {
+  constexpr double mark = 255, edge = 120;
+  if (const auto* label = dynamic_cast<const Label*>(&widget)) return {label->Caption, label->Width};
+  if (const auto* button = dynamic_cast<const Button*>(&widget))
+    return {button->Caption, button->Width - 2 * edge};
+  if (const auto* option = dynamic_cast<const OptionButton*>(&widget))
+    return {option->Caption, option->Width - mark};
+  if (const auto* box = dynamic_cast<const CheckBox*>(&widget)) return {box->Caption, box->Width - mark};
+  if (const auto* frame = dynamic_cast<const Frame*>(&widget))
+    return {frame->Caption, frame->Width - 2 * edge};
+  return {};
+}
+
+void expect_whole_captions(const Widget& container) {
+  for (const Widget* widget : container.children()) {
+    const auto [caption, room] = caption_of(*widget);
+    EXPECT_LE(widget->toolkit().measure({}, caption).width * 15, room) << caption;
+    expect_whole_captions(*widget);
+  }
+}
+
+TEST_F(PropertyDialogTest, CutsNoCaption) {
+  for (FakeControl& fake : all_fakes()) expect_whole_captions(PropertyDialog(toolkit, {fake.object()}));
+}
+
+TEST_F(PropertyDialogTest, HoldsItsWidgetsApart) {
+  for (FakeControl& fake : all_fakes()) {
+    SCOPED_TRACE(fake.object().info->name);
+    expect_inside_and_apart(PropertyDialog(toolkit, {fake.object()}));
+  }
+}
+
+}  // namespace
+}  // namespace mirolen
