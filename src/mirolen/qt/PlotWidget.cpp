@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QMetaProperty>
 #include <QPainter>
+#include <QPointer>
 #include <algorithm>
 #include <limits>
 
@@ -21,22 +22,46 @@ QSize size_of(const SurfaceSize& twips) { return {pixels_of(twips.width), pixels
 /// What a host's form is to the control: it makes signals of its notices and events.
 class PlotWidget::Host : public Container {
  public:
-  explicit Host(PlotWidget& face) : face_(face) {}
+  explicit Host(PlotWidget& face) : face_(&face) {}
 
   void ScaleMode(std::int16_t) override {}  // a form of Qt knows one scale only
-  void changed(std::string_view property) override { face_.property_changed(property); }
-  void Click() override { emit face_.Click(); }
-  void DblClick() override { emit face_.DblClick(); }
-  void MouseDown(const MouseEvent& e) override { emit face_.MouseDown(e.Button, e.Shift, e.x, e.y); }
-  void MouseMove(const MouseEvent& e) override { emit face_.MouseMove(e.Button, e.Shift, e.x, e.y); }
-  void MouseUp(const MouseEvent& e) override { emit face_.MouseUp(e.Button, e.Shift, e.x, e.y); }
+  void changed(std::string_view property) override {
+    if (face_) face_->property_changed(property);
+  }
+  void Click() override {
+    if (face_) emit face_->Click();
+  }
+  void DblClick() override {
+    if (face_) emit face_->DblClick();
+  }
+  void MouseDown(const MouseEvent& e) override { tell(&PlotWidget::MouseDown, e); }
+  void MouseMove(const MouseEvent& e) override { tell(&PlotWidget::MouseMove, e); }
+  void MouseUp(const MouseEvent& e) override { tell(&PlotWidget::MouseUp, e); }
 
  private:
-  PlotWidget& face_;
+  void tell(void (PlotWidget::*signal)(int, int, float, float), const MouseEvent& e) {
+    if (face_) emit(face_->*signal)(e.Button, e.Shift, e.x, e.y);
+  }
+
+  QPointer<PlotWidget> face_;
+};
+
+/// A control that outlives its face, with what it stands on.
+class PlotWidget::Remains : public QObject {
+ public:
+  explicit Remains(PlotWidget& face)
+      : toolkit_(std::move(face.toolkit_)), host_(std::move(face.host_)), control_(std::move(face.control_)) {
+    toolkit_->on_waited = [this] { deleteLater(); };
+  }
+
+ private:
+  std::unique_ptr<QtToolkit> toolkit_;
+  std::unique_ptr<Host> host_;
+  std::unique_ptr<ControlFrame> control_;
 };
 
 PlotWidget::PlotWidget(QWidget* parent)
-    : QWidget(parent), toolkit_(*this), host_(std::make_unique<Host>(*this)) {
+    : QWidget(parent), toolkit_(std::make_unique<QtToolkit>(*this)), host_(std::make_unique<Host>(*this)) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
@@ -44,7 +69,10 @@ PlotWidget::PlotWidget(QWidget* parent)
   setFocusPolicy(Qt::ClickFocus);
 }
 
-PlotWidget::~PlotWidget() = default;
+PlotWidget::~PlotWidget() {
+  // Deleted within a call of its control, which has to come to its end.
+  if (toolkit_->is_waiting()) new Remains(*this);
+}
 
 Container& PlotWidget::container() { return *host_; }
 
@@ -56,8 +84,9 @@ void PlotWidget::adopt(std::unique_ptr<ControlFrame> control) {
 }
 
 ControlFrame& PlotWidget::frame() {
+  ControlFrame& control = *control_;
   take_size();
-  return *control_;
+  return control;
 }
 
 int PlotWidget::SetWaferData(const ArrayView& x, const ArrayView& y, const ArrayView& Z) {
@@ -83,7 +112,7 @@ double PlotWidget::GetWaferData(std::vector<double>& x, std::vector<double>& y,
   return control_->GetWaferData(x, y, Z);
 }
 
-QColor PlotWidget::BackColor() const { return qcolor_of(toolkit_.resolve(control_->BackColor())); }
+QColor PlotWidget::BackColor() const { return qcolor_of(toolkit_->resolve(control_->BackColor())); }
 
 void PlotWidget::setBackColor(const QColor& v) {
   if (v.isValid()) control_->BackColor(color_of(v));
@@ -137,18 +166,20 @@ void PlotWidget::redraw() {
 }
 
 void PlotWidget::change_ratio(double ratio) {
-  toolkit_.change_ratio(*control_, ratio);
+  toolkit_->change_ratio(*control_, ratio);
   redraw();
 }
 
 void PlotWidget::take_ratio() {
-  if (control_ && toolkit_.ratio() != devicePixelRatioF()) change_ratio(devicePixelRatioF());
+  if (control_ && toolkit_->ratio() != devicePixelRatioF()) change_ratio(devicePixelRatioF());
 }
 
 void PlotWidget::take_palette() {
   if (!control_) return;
-  toolkit_.erase_pictures(*control_);
+  const QPointer<PlotWidget> alive(this);
+  toolkit_->erase_pictures(*control_);
   redraw();
+  if (!alive) return;
   // A system colour that it may be looks different now; the miniature of a line scan is drawn again for it.
   control_->BackColor(control_->BackColor());
 }
@@ -163,16 +194,17 @@ bool PlotWidget::event(QEvent* event) {
 void PlotWidget::paintEvent(QPaintEvent*) {
   QPainter(this).fillRect(rect(), BackColor());
   // Where no other event told of a new ratio; nothing must be drawn anew within a paint event.
-  if (toolkit_.ratio() != devicePixelRatioF())
+  if (toolkit_->ratio() != devicePixelRatioF())
     QMetaObject::invokeMethod(this, &PlotWidget::take_ratio, Qt::QueuedConnection);
 }
 
 void PlotWidget::resizeEvent(QResizeEvent*) { take_size(); }
 
 void PlotWidget::showEvent(QShowEvent*) {
+  const QPointer<PlotWidget> alive(this);
   take_size();
-  take_ratio();
-  seen_ = true;
+  if (alive) take_ratio();
+  if (alive) seen_ = true;
 }
 
 void PlotWidget::focusInEvent(QFocusEvent* event) {

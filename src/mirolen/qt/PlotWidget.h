@@ -21,6 +21,9 @@ namespace mirolen::qt {
 ///
 /// The control takes the smallest size it can work in by itself, also against a layout; `minimumSizeHint`
 /// tells it.
+///
+/// A face may be deleted while its control waits for the user of a form or of a message: they are closed, and
+/// the control comes to its end unseen.
 class PlotWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(double TestDiameter READ TestDiameter WRITE setTestDiameter NOTIFY TestDiameterChanged)
@@ -87,8 +90,8 @@ class PlotWidget : public QWidget {
   std::shared_ptr<PlotCanvas> PrinterObj() const { return control_->PrinterObj; }
   void setPrinterObj(std::shared_ptr<PlotCanvas> v) { control_->PrinterObj = std::move(v); }
 
-  /// The messages of the control, for a host that wants them elsewhere than in a message box.
-  QtToolkit& toolkit() { return toolkit_; }
+  /// The messages and the forms of the control, for a host that wants them elsewhere than in windows.
+  QtToolkit& toolkit() { return *toolkit_; }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -163,6 +166,7 @@ class PlotWidget : public QWidget {
 
  private:
   class Host;
+  class Remains;
 
   void property_changed(std::string_view name);
   void take_size();
@@ -170,7 +174,7 @@ class PlotWidget : public QWidget {
   void take_palette();
   void redraw();
 
-  QtToolkit toolkit_;
+  std::unique_ptr<QtToolkit> toolkit_;
   std::unique_ptr<Host> host_;
   std::unique_ptr<ControlFrame> control_;
   std::unique_ptr<class MouseRelay> mouse_;

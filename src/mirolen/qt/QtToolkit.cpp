@@ -1,15 +1,16 @@
 #include "mirolen/qt/QtToolkit.h"
 
-#include <QCoreApplication>
-#include <QDialog>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "mirolen/qt/ImageSurface.h"
 #include "mirolen/qt/PrintJob.h"
+#include "mirolen/qt/captions.h"
 #include "mirolen/qt/peers.h"
 #include "mirolen/qt/translate.h"
 #include "mirolen/widgets/PictureBox.h"
@@ -36,16 +37,33 @@ void for_each_picture(Widget& root, const Action& act) {
 
 }  // namespace
 
-QtToolkit::QtToolkit(QWidget& face) : face_(face), ratio_(face.devicePixelRatioF()) {}
+/// A time in which the host may do anything, even delete the face.
+class QtToolkit::Wait {
+ public:
+  explicit Wait(QtToolkit& toolkit) : toolkit_(toolkit) { ++toolkit_.waits_; }
+  Wait(const Wait&) = delete;
+  ~Wait() {
+    if (--toolkit_.waits_ == 0 && toolkit_.on_waited) std::exchange(toolkit_.on_waited, nullptr)();
+  }
+
+ private:
+  QtToolkit& toolkit_;
+};
+
+QtToolkit::QtToolkit(QWidget& face) : face_(&face), ratio_(face.devicePixelRatioF()) {}
 
 std::unique_ptr<Peer> QtToolkit::make_peer(Widget& widget) {
-  if (auto* control = dynamic_cast<UserControl*>(&widget)) return std::make_unique<FacePeer>(*control, face_);
-  if (auto* form = dynamic_cast<Form*>(&widget)) return std::make_unique<FormPeer>(*form, *face_.window());
+  if (!face_) return nullptr;
+  if (auto* control = dynamic_cast<UserControl*>(&widget))
+    return std::make_unique<FacePeer>(*control, *face_);
+  if (auto* form = dynamic_cast<Form*>(&widget)) return std::make_unique<FormPeer>(*form, *front());
   return make_child_peer(widget);
 }
 
 std::unique_ptr<Surface> QtToolkit::make_surface(PictureBox& box) {
-  auto surface = std::make_unique<ImageSurface>(box.pixel_size(), ratio_,
+  const QWidget* const view = is_on_form(box) ? view_of(box) : nullptr;
+  const double ratio = view ? view->devicePixelRatioF() : ratio_;
+  auto surface = std::make_unique<ImageSurface>(box.pixel_size(), ratio,
                                                 [&box](bool at_once) { show_picture(box, at_once); });
   surface->clear(resolve(box.BackColor));
   return surface;
@@ -54,9 +72,10 @@ std::unique_ptr<Surface> QtToolkit::make_surface(PictureBox& box) {
 SurfaceSize QtToolkit::measure(const FontSpec& font, std::string_view text) const {
   // Fonts have whole pixels on every screen, so they differ a little; the larger one cuts no text.
   SurfaceSize size;
+  if (!face_) return size;
   const QStringList lines = shown_text(font, text).split('\n');
   for (const double ratio : {1.0, ratio_}) {
-    const QFontMetricsF metrics(font_of(font, face_, ratio), &face_);
+    const QFontMetricsF metrics(font_of(font, *face_, ratio), face_);
     for (const QString& line : lines)
       size.width = std::max(size.width, std::ceil(metrics.horizontalAdvance(line) / ratio));
     size.height =
@@ -72,25 +91,53 @@ void QtToolkit::set_focus(Widget& widget) {
   if (view && view->isVisibleTo(view_of(*root))) view->setFocus(Qt::OtherFocusReason);
 }
 
-void QtToolkit::run_pending_events() { QCoreApplication::processEvents(); }
+QWidget* QtToolkit::front() const {
+  for (auto form = open_forms_.rbegin(); form != open_forms_.rend(); ++form)
+    if (*form && (*form)->isVisible()) return *form;
+  return face_;
+}
+
+void QtToolkit::run_pending_events() {
+  const Wait wait(*this);
+  QCoreApplication::processEvents();
+}
 
 void QtToolkit::message_box(const std::string& text, const std::string& title, MessageIcon icon) {
+  if (!face_) return;
+  const Wait wait(*this);
   if (on_message) return on_message(text_of(text), text_of(title), icon);
-  QMessageBox box(icon == MessageIcon::critical ? QMessageBox::Critical : QMessageBox::NoIcon, text_of(title),
-                  text_of(text), QMessageBox::Ok, face_.window());
-  box.setTextFormat(Qt::PlainText);
-  box.setWindowModality(Qt::ApplicationModal);
-  box.exec();
+  // The box goes with its parent, so it is not held here.
+  const QPointer<QMessageBox> box(
+      new QMessageBox(icon == MessageIcon::critical ? QMessageBox::Critical : QMessageBox::NoIcon,
+                      text_of(title), text_of(text), QMessageBox::Ok, front()->window()));
+  box->setTextFormat(Qt::PlainText);
+  box->setWindowModality(Qt::ApplicationModal);
+  box->exec();
+  delete box.data();
 }
 
 void QtToolkit::run_modal(Form& form) {
-  if (auto* dialog = qobject_cast<QDialog*>(view_of(form))) dialog->exec();
+  const QPointer<FormView> view(dynamic_cast<FormView*>(view_of(form)));
+  if (!view) return;
+  const Wait wait(*this);
+  const std::unique_ptr<void, std::function<void(void*)>> end(this, [&](void*) {
+    std::erase(open_forms_, view.data());
+    delete view.data();
+  });
+  if (!on_form) {
+    open_forms_.emplace_back(view);
+    return view->run();
+  }
+  on_form(form);
+  if (form.Visible) form.Close();
 }
 
 SurfaceSize QtToolkit::twips_per_pixel() const { return {qt::twips_per_pixel, qt::twips_per_pixel}; }
 
 Color QtToolkit::resolve(Color color) const {
-  return color & system_color_flag ? system_color(face_.palette(), color & ~system_color_flag) : color;
+  return color & system_color_flag
+             ? system_color(face_ ? face_->palette() : QGuiApplication::palette(), color & ~system_color_flag)
+             : color;
 }
 
 std::shared_ptr<PlotCanvas> QtToolkit::default_printer() { return PrintJob::default_printer(); }

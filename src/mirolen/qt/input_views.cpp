@@ -2,7 +2,10 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 
+#include "mirolen/qt/FormView.h"
+#include "mirolen/qt/captions.h"
 #include "mirolen/qt/translate.h"
 
 namespace mirolen::qt {
@@ -28,7 +31,7 @@ int code_of(int key) {
 }  // namespace
 
 TextFieldView::TextFieldView(QWidget& parent, TextField& field) : QLineEdit(&parent), field_(field) {
-  setFont(font_of({}, *this));
+  if (!is_on_form(field)) setFont(text_font(field, *this));
   QObject::connect(this, &QLineEdit::textEdited, this,
                    [&field](const QString& text) { field.Text(utf8_of(text)); });
 }
@@ -38,10 +41,18 @@ void TextFieldView::show_state() {
   if (text() != now) setText(now);
 }
 
+QSize TextFieldView::needed_size() const { return {0, minimumSizeHint().height()}; }
+
+void TextFieldView::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  if (auto* form = dynamic_cast<FormView*>(window())) form->left(field_, event->reason());
+}
+
 void TextFieldView::keyPressEvent(QKeyEvent* event) {
   const int code = code_of(event->key());
+  const QPointer<TextFieldView> alive(this);
   if (code != 0 && field_.OnKeyDown) field_.OnKeyDown(code);
-  QLineEdit::keyPressEvent(event);
+  if (alive) QLineEdit::keyPressEvent(event);
 }
 
 UpDownView::UpDownView(QWidget& parent, UpDown& spinner) : QWidget(&parent), spinner_(spinner) {

@@ -9,12 +9,15 @@
 // The children of a control that take the keyboard's input, as QWidgets.
 namespace mirolen::qt {
 
-class TextFieldView : public QLineEdit, public StateView {
+class TextFieldView : public QLineEdit, public StateView, public TextView {
  public:
   TextFieldView(QWidget& parent, TextField& field);
   void show_state() override;
+  /// The height alone: a text that is too wide scrolls.
+  QSize needed_size() const override;
 
  protected:
+  void focusOutEvent(QFocusEvent* event) override;
   /// The field's handler has the key before the edit has it.
   void keyPressEvent(QKeyEvent* event) override;
 

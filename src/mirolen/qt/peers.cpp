@@ -1,7 +1,7 @@
 #include "mirolen/qt/peers.h"
 
-#include <QTextDocument>
-
+#include "mirolen/qt/button_views.h"
+#include "mirolen/qt/captions.h"
 #include "mirolen/qt/input_views.h"
 #include "mirolen/qt/translate.h"
 #include "mirolen/qt/views.h"
@@ -9,20 +9,17 @@
 namespace mirolen::qt {
 namespace {
 
-/// A tool tip is plain text, whatever its "<" and "&" look like.
-QString plain_tip(const std::string& utf8) {
-  const QString text = text_of(utf8);
-  return Qt::mightBeRichText(text) ? QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()) : text;
-}
-
 /// Both edges are rounded, so that neighbours meet. What shows an image keeps the size in pixels of that
-/// instead.
+/// instead, in the middle of its place.
 QRect place_of(const Widget& widget) {
   if (const auto* line = dynamic_cast<const LineShape*>(&widget)) return LineView::place_of(*line);
-  const QPoint from(pixels_of(widget.Left), pixels_of(widget.Top));
+  const QSizeF stretch = stretch_in(*widget.container());
+  const double left = widget.Left * stretch.width(), width = widget.Width * stretch.width();
+  const double top = widget.Top * stretch.height(), height = widget.Height * stretch.height();
   if (widget.kind() == WidgetKind::picture_box || widget.kind() == WidgetKind::image_box)
-    return QRect(from, QSize(pixels_of(widget.Width), pixels_of(widget.Height)));
-  const QPoint to(pixels_of(widget.Left + widget.Width), pixels_of(widget.Top + widget.Height));
+    return QRect(pixels_of(left + (width - widget.Width) / 2), pixels_of(top + (height - widget.Height) / 2),
+                 pixels_of(widget.Width), pixels_of(widget.Height));
+  const QPoint from(pixels_of(left), pixels_of(top)), to(pixels_of(left + width), pixels_of(top + height));
   return QRect(from, to - QPoint(1, 1));
 }
 
@@ -38,7 +35,7 @@ class ChildPeer : public ViewPeer {
     view_->setGeometry(place_of(widget_));
     view_->setVisible(widget_.Visible);
     view_->setEnabled(widget_.Enabled);
-    view_->setToolTip(plain_tip(widget_.ToolTipText));
+    view_->setToolTip(plain_tip(text_of(widget_.ToolTipText.get())));
     if (auto* state = dynamic_cast<StateView*>(view_.data())) state->show_state();
     view_->update();
   }
@@ -56,6 +53,10 @@ QWidget* make_view(QWidget& parent, Widget& widget) {
       return new LabelView(parent, dynamic_cast<Label&>(widget));
     case WidgetKind::button:
       return new ButtonView(parent, dynamic_cast<Button&>(widget));
+    case WidgetKind::option_button:
+      return new OptionButtonView(parent, dynamic_cast<OptionButton&>(widget));
+    case WidgetKind::check_box:
+      return new CheckBoxView(parent, dynamic_cast<CheckBox&>(widget));
     case WidgetKind::text_field:
       return new TextFieldView(parent, dynamic_cast<TextField&>(widget));
     case WidgetKind::up_down:
@@ -68,8 +69,6 @@ QWidget* make_view(QWidget& parent, Widget& widget) {
       return new PictureView(parent, dynamic_cast<PictureBox&>(widget));
     case WidgetKind::image_box:
       return new ImageView(parent, dynamic_cast<ImageBox&>(widget));
-    case WidgetKind::option_button:
-    case WidgetKind::check_box:
     case WidgetKind::form:
     case WidgetKind::user_control:
       break;
@@ -103,7 +102,7 @@ void FacePeer::changed() {
   if (!face_) return;
   follow_size();
   show_pointer();
-  face_->setToolTip(plain_tip(control_.ToolTipText));
+  face_->setToolTip(plain_tip(text_of(control_.ToolTipText.get())));
   face_->update();
 }
 
@@ -126,19 +125,12 @@ void FacePeer::show_pointer() {
     face_->setCursor(cursor_of(pointer_, icon_.get()));
 }
 
-FormPeer::FormPeer(Form& form, QWidget& owner) : form_(form), view_(new QDialog(&owner)) {
-  QObject::connect(view_, &QDialog::rejected, view_, [&form] {
-    if (form.Visible) form.Close();
-  });
-}
+FormPeer::FormPeer(Form& form, QWidget& owner) : view_(new FormView(form, owner)) {}
 
 FormPeer::~FormPeer() { delete view_.data(); }
 
 void FormPeer::changed() {
-  if (!view_) return;
-  view_->setWindowTitle(text_of(form_.Caption.get()));
-  view_->setFixedSize(pixels_of(form_.Width), pixels_of(form_.Height));
-  if (!form_.Visible && view_->isVisible()) view_->accept();
+  if (view_) view_->show_state();
 }
 
 }  // namespace mirolen::qt

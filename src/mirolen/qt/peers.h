@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QDialog>
 #include <QPointer>
 #include <QWidget>
 #include <memory>
 
-#include "mirolen/widgets/Form.h"
+#include "mirolen/qt/FormView.h"
 #include "mirolen/widgets/Toolkit.h"
 
 namespace mirolen::qt {
@@ -56,8 +55,7 @@ class FormPeer : public ViewPeer {
   void changed() override;
 
  private:
-  Form& form_;
-  QPointer<QDialog> view_;
+  QPointer<FormView> view_;
 };
 
 }  // namespace mirolen::qt

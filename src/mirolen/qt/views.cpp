@@ -3,9 +3,13 @@
 #include <QFontMetrics>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QStyle>
 
+#include "mirolen/qt/FormView.h"
 #include "mirolen/qt/ImageSurface.h"
 #include "mirolen/qt/Picture.h"
+#include "mirolen/qt/captions.h"
+#include "mirolen/qt/peers.h"
 #include "mirolen/qt/translate.h"
 
 namespace mirolen::qt {
@@ -20,6 +24,14 @@ QColor seen_background(const Widget& widget) {
   return own_background(*shown);
 }
 
+/// Text that takes input or none, on a background.
+QColor text_color(const QWidget& view, const QColor& background) {
+  const QColor text = view.palette().color(QPalette::WindowText);
+  return view.isEnabled() ? readable_on(background, text) : text;
+}
+
+constexpr int caption_indent = 8, caption_gap = 2;
+
 /// The four edges of a box, filled: a drawn line may fall off the widget where a logical pixel is a broken
 /// number of the screen's.
 void fill_edges(QPainter& painter, const QRect& box, const QColor& color) {
@@ -33,17 +45,33 @@ void fill_edges(QPainter& painter, const QRect& box, const QColor& color) {
 QLineF in_pixels(const LineShape& line) {
   const auto* const picture = dynamic_cast<const PictureBox*>(line.container());
   const double unit = picture && picture->ScaleMode() == pixels ? 1 : 1 / twips_per_pixel;
-  return QLineF(line.X1 * unit, line.Y1 * unit, line.X2 * unit, line.Y2 * unit).translated(0.5, 0.5);
+  const QSizeF scale = stretch_in(*line.container()) * unit;
+  return QLineF(line.X1 * scale.width(), line.Y1 * scale.height(), line.X2 * scale.width(),
+                line.Y2 * scale.height())
+      .translated(0.5, 0.5);
 }
 
 }  // namespace
+
+void FrameView::show_state() {
+  setFont(text_font(frame_, *this));
+  setAccessibleName(text_of(frame_.Caption.get()));
+  if (is_on_form(frame_))
+    fitted(*this, with_mnemonic(text_of(frame_.Caption.get()), 0),
+           width() - 2 * (caption_indent + caption_gap));
+}
+
+QSize FrameView::needed_size() const {
+  return size_of_text(font(), *this, with_mnemonic(text_of(frame_.Caption.get()), 0)) +
+         QSize(2 * (caption_indent + caption_gap), 0);
+}
 
 void FrameView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QColor background = own_background(frame_);
   painter.fillRect(rect(), background);
   if (!frame_.Border) return;
-  const int top = frame_.Caption.get().empty() ? 0 : QFontMetrics(font_of({}, *this)).height() / 2;
+  const int top = frame_.Caption.get().empty() ? 0 : QFontMetrics(font(), this).height() / 2;
   const QRect edges(0, top, width() - 1, height() - 1 - top);
   const bool dark = background.lightnessF() < 0.5;
   fill_edges(painter, edges.translated(1, 1), dark ? background.darker(180) : background.lighter(130));
@@ -52,38 +80,58 @@ void FrameView::paintEvent(QPaintEvent*) {
 }
 
 void FrameView::paint_caption(QPainter& painter, const QColor& background) const {
-  constexpr int indent = 8, gap = 2;
-  const QFont font = font_of({}, *this);
-  const QFontMetrics metrics(font, painter.device());
-  const QString text =
-      metrics.elidedText(text_of(frame_.Caption.get()), Qt::ElideRight, width() - 2 * (indent + gap));
+  const QFontMetrics metrics(font(), painter.device());
+  const QString text = metrics.elidedText(text_of(frame_.Caption.get()), Qt::ElideRight,
+                                          width() - 2 * (caption_indent + caption_gap));
   if (text.isEmpty()) return;
-  const QRect place(indent, 0, metrics.horizontalAdvance(text), metrics.height());
-  painter.fillRect(place.adjusted(-gap, 0, gap, 0), background);
-  painter.setFont(font);
-  painter.setPen(readable_on(background, palette().color(QPalette::WindowText)));
+  const QRect place(caption_indent, 0, metrics.horizontalAdvance(text), metrics.height());
+  painter.fillRect(place.adjusted(-caption_gap, 0, caption_gap, 0), background);
+  painter.setPen(text_color(*this, background));
   painter.drawText(QPoint(place.left(), metrics.ascent()), text);
+}
+
+QString LabelView::text() const {
+  return with_mnemonic(shown_text(label_.Font, label_.Caption.get()), label_.AccessKey);
+}
+
+void LabelView::show_state() {
+  setFont(text_font(label_, *this, label_.Font));
+  shown_ = is_on_form(label_) ? fitted(*this, text(), width()) : text();
+  listen_for(QKeySequence::mnemonic(text()));
+}
+
+QSize LabelView::needed_size() const { return size_of_text(font(), *this, text()); }
+
+void LabelView::listen_for(const QKeySequence& keys) {
+  if (keys == keys_) return;
+  if (!keys_.isEmpty()) releaseShortcut(shortcut_);
+  keys_ = keys;
+  if (!keys_.isEmpty()) shortcut_ = grabShortcut(keys_);
+}
+
+bool LabelView::event(QEvent* event) {
+  if (event->type() != QEvent::Shortcut) return ChildView::event(event);
+  bool behind = false;
+  for (const Widget* widget : label_.container()->children()) {
+    QWidget* const view = behind ? view_of(*widget) : nullptr;
+    behind = behind || widget == &label_;
+    if (!view || view->focusPolicy() == Qt::NoFocus) continue;
+    view->setFocus(Qt::ShortcutFocusReason);
+    break;
+  }
+  return true;
 }
 
 void LabelView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const QColor background = seen_background(label_);
   if (label_.BackColor != button_face) painter.fillRect(rect(), background);
-  painter.setFont(font_of(label_.Font, *this));
-  painter.setPen(readable_on(background, palette().color(QPalette::WindowText)));
+  painter.setPen(text_color(*this, background));
+  const bool marks_key = style()->styleHint(QStyle::SH_UnderlineShortcut, nullptr, this);
   const auto align = (label_.Centered ? Qt::AlignHCenter : Qt::AlignLeft) | Qt::AlignVCenter;
-  painter.drawText(rect(), static_cast<int>(align) | Qt::TextDontClip,
-                   shown_text(label_.Font, label_.Caption.get()));
+  const auto key = marks_key ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+  painter.drawText(rect(), static_cast<int>(align) | Qt::TextDontClip | key, shown_);
 }
-
-ButtonView::ButtonView(QWidget& parent, Button& button) : QPushButton(&parent), button_(button) {
-  setFont(font_of({}, *this));
-  QObject::connect(this, &QPushButton::clicked, this, [&button] {
-    if (button.OnClick) button.OnClick();
-  });
-}
-
-void ButtonView::show_state() { setText(text_of(button_.Caption.get())); }
 
 void ShapeView::show_state() {
   setAttribute(Qt::WA_TransparentForMouseEvents, shape_.Look == Shape::Form::rectangle);

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QKeySequence>
 #include <QLineF>
-#include <QPushButton>
 
 #include "mirolen/qt/ChildView.h"
 #include "mirolen/qt/StateView.h"
@@ -12,9 +12,12 @@
 namespace mirolen::qt {
 
 /// A box etched into the form, with its caption on the upper edge.
-class FrameView : public ChildView {
+class FrameView : public ChildView, public StateView, public TextView {
  public:
   FrameView(QWidget& parent, Frame& frame) : ChildView(parent, frame), frame_(frame) {}
+  void show_state() override;
+  /// What its caption needs.
+  QSize needed_size() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -25,26 +28,25 @@ class FrameView : public ChildView {
 };
 
 /// Text, in as many lines as it has. Unless it has a background of its own, that of its container shines
-/// through.
-class LabelView : public ChildView {
+/// through. Its access key takes the focus to the next widget of its container that can have it.
+class LabelView : public ChildView, public StateView, public TextView {
  public:
   LabelView(QWidget& parent, Label& label) : ChildView(parent, label), label_(label) {}
+  void show_state() override;
+  QSize needed_size() const override;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  QString text() const;
+  void listen_for(const QKeySequence& keys);
+
   Label& label_;
-};
-
-/// A push button; it takes the keyboard's Tab and Space as every button does.
-class ButtonView : public QPushButton, public StateView {
- public:
-  ButtonView(QWidget& parent, Button& button);
-  void show_state() override;
-
- private:
-  Button& button_;
+  QString shown_;
+  QKeySequence keys_;
+  int shortcut_ = 0;
 };
 
 /// A filled box, through which the mouse goes to what holds it, or a cross, which has a tool tip to show.
