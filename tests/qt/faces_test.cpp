@@ -84,7 +84,7 @@ TEST_P(Face, HasItsPropertiesByNameAndTellsEachChange) {
 }
 
 TEST_P(Face, HasNoOtherPropertyThatCanBeSet) {
-  std::set<QByteArray> expected{"MouseIcon", "PrinterObj"};
+  std::set<QByteArray> expected{"DesignMode", "MouseIcon", "PrinterObj"};
   for (const Change& change : of_all + GetParam().own) expected.insert(change.property);
   const QMetaObject& meta = *make_face(GetParam().face)->metaObject();
   for (int i = QWidget::staticMetaObject.propertyCount(); i < meta.propertyCount(); ++i) {

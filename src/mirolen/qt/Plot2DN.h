@@ -21,6 +21,9 @@ class Plot2DN : public MapWidget {
   int PrintGridNumber(double left, double top, double width, double height, bool DrawFrame = false) {
     return control().PrintGridNumber(left, top, width, height, DrawFrame);
   }
+
+ protected:
+  bool has_plot_options() const override { return false; }
 };
 
 }  // namespace mirolen::qt

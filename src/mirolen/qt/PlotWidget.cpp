@@ -1,6 +1,8 @@
 #include "mirolen/qt/PlotWidget.h"
 
+#include <QContextMenuEvent>
 #include <QEvent>
+#include <QMenu>
 #include <QMetaProperty>
 #include <QPainter>
 #include <QPointer>
@@ -134,6 +136,12 @@ void PlotWidget::setMouseIcon(const QPixmap& v) {
   emit MouseIconChanged();
 }
 
+void PlotWidget::setDesignMode(bool v) {
+  if (v == design_mode_) return;
+  design_mode_ = v;
+  emit DesignModeChanged();
+}
+
 QSize PlotWidget::sizeHint() const { return size_of(ControlFrame::usual_size); }
 QSize PlotWidget::minimumSizeHint() const { return size_of(control_->smallest_size()); }
 
@@ -210,6 +218,20 @@ void PlotWidget::showEvent(QShowEvent*) {
 void PlotWidget::focusInEvent(QFocusEvent* event) {
   QWidget::focusInEvent(event);
   if (control_->OnEnterFocus) control_->OnEnterFocus();
+}
+
+void PlotWidget::contextMenuEvent(QContextMenuEvent* event) {
+  if (!design_mode_) return QWidget::contextMenuEvent(event);
+  auto* const menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  // What they open must not keep the menu waiting.
+  const auto offer = [&](const char* text, void (PlotWidget::*open)()) {
+    QObject::connect(menu->addAction(text), &QAction::triggered, this, open, Qt::QueuedConnection);
+  };
+  offer("Properties...", &PlotWidget::open_properties);
+  if (has_plot_options()) offer("Plot- Options...", &PlotWidget::open_plot_options);
+  offer("About...", &PlotWidget::open_about);
+  menu->popup(event->globalPos());
 }
 
 void PlotWidget::mousePressEvent(QMouseEvent* event) { mouse_->press(*event); }

@@ -33,6 +33,7 @@ class PlotWidget : public QWidget {
   Q_PROPERTY(QColor BackColor READ BackColor WRITE setBackColor NOTIFY BackColorChanged)
   Q_PROPERTY(int MousePointer READ MousePointer WRITE setMousePointer NOTIFY MousePointerChanged)
   Q_PROPERTY(QPixmap MouseIcon READ MouseIcon WRITE setMouseIcon NOTIFY MouseIconChanged)
+  Q_PROPERTY(bool DesignMode READ DesignMode WRITE setDesignMode NOTIFY DesignModeChanged STORED false)
   Q_PROPERTY(std::shared_ptr<mirolen::PlotCanvas> PrinterObj READ PrinterObj WRITE setPrinterObj STORED false)
   Q_PROPERTY(double mean READ mean STORED false)
   Q_PROPERTY(double StdDev READ StdDev STORED false)
@@ -85,6 +86,10 @@ class PlotWidget : public QWidget {
   int hdc() const { return control_->hdc(); }
   int hwnd() const { return control_->hwnd(); }
 
+  /// Design use: the control has a context menu for its properties, its plot options and its About box.
+  bool DesignMode() const { return design_mode_; }
+  void setDesignMode(bool v);
+
   /// What the print members draw on: a PrintJob, or any other canvas of the host. A new face has one on the
   /// default printer of the system.
   std::shared_ptr<PlotCanvas> PrinterObj() const { return control_->PrinterObj; }
@@ -129,6 +134,7 @@ class PlotWidget : public QWidget {
   void BackColorChanged();
   void MousePointerChanged();
   void MouseIconChanged();
+  void DesignModeChanged();
 
  protected:
   explicit PlotWidget(QWidget* parent);
@@ -154,11 +160,19 @@ class PlotWidget : public QWidget {
   /// Draws anew for a screen with so many device pixels a logical pixel.
   void change_ratio(double ratio);
 
+  // What the entries of the menu in design use open.
+  virtual void open_properties() {}
+  virtual void open_plot_options() {}
+  virtual void open_about() {}
+  /// Whether the menu offers plot options.
+  virtual bool has_plot_options() const { return true; }
+
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -180,6 +194,7 @@ class PlotWidget : public QWidget {
   std::unique_ptr<class MouseRelay> mouse_;
   QSize told_;
   bool seen_ = false;
+  bool design_mode_ = false;
 };
 
 }  // namespace mirolen::qt
