@@ -5,7 +5,10 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 
+#include "mirolen/qt/StateView.h"
+#include "mirolen/qt/translate.h"
 #include "mirolen/widgets/PictureBox.h"
 #include "qt/form_user.h"
 #include "qt/qt_support.h"
@@ -292,6 +295,107 @@ TEST_F(FormViewTest, ACheckBoxIsTickedByMouseKeyAndProgram) {
     form.white.Value(true);
     EXPECT_TRUE(box.isChecked());
     EXPECT_EQ(told, 3);
+  });
+}
+
+// ---- Sizes and looks ----
+
+/// The platform's font for a time.
+class ApplicationFont {
+ public:
+  explicit ApplicationFont(double points) {
+    QFont font = before_;
+    font.setPointSizeF(points);
+    QApplication::setFont(font);
+  }
+  ~ApplicationFont() { QApplication::setFont(before_); }
+
+ private:
+  QFont before_ = QApplication::font();
+};
+
+TEST_F(FormViewTest, GrowsSoFarThatNoTextIsCut) {
+  double width = 0;
+  for (const double points : {7.0, 9.0, 12.0}) {
+    const ApplicationFont font(points);
+    show([&] {
+      EXPECT_GT(view(form).width(), width) << points;
+      width = view(form).width();
+      for (const Widget* widget : std::initializer_list<const Widget*>{
+               &form.group, &form.size_label, &form.size, &form.hide, &form.white, &form.ok}) {
+        const QSize needed = view<qt::TextView>(*widget).needed_size();
+        EXPECT_EQ(needed, needed.boundedTo(view(*widget).size())) << points;
+        EXPECT_TRUE(view(*widget).toolTip().isEmpty()) << points;
+      }
+      EXPECT_GE(view(form.size).y(), QFontMetrics(view(form.group).font()).height()) << "below the caption";
+      EXPECT_TRUE(view(form).rect().contains(view(form.cancel).geometry()));
+    });
+  }
+}
+
+TEST_F(FormViewTest, KeepsItsToldSizeWhereTheTextsHaveRoom) {
+  const ApplicationFont font(5);
+  show([&] { EXPECT_EQ(view(form).size(), QSize(280, 220)); });
+}
+
+TEST_F(FormViewTest, IsNotLargerThanTheScreenAndDotsWhatIsTooWide) {
+  const std::string text(400, 'm');
+  form.white.Caption = text;
+  form.size_label.Caption = text;
+  show([&] {
+    EXPECT_LE(view(form).width(), view(form).screen()->availableSize().width() + 1);
+    EXPECT_TRUE(marked(form.white).endsWith(QChar(0x2026)));
+    for (const Widget* widget :
+         {static_cast<const Widget*>(&form.white), static_cast<const Widget*>(&form.size_label)})
+      EXPECT_EQ(view(*widget).toolTip().toStdString(), text);
+  });
+}
+
+TEST_F(FormViewTest, FollowsTheFontOfThePlatformWhileItIsOpen) {
+  show([&] {
+    const int before = view(form).height();
+    const ApplicationFont font(13);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view(form).height() > before; }));
+  });
+}
+
+TEST_F(FormViewTest, PicturesKeepTheirSizeAndTheirMarks) {
+  Shape mark(&form.group);
+  mark.Look = Shape::Form::cross;
+  mark.Move(form.preview.Left + 75, form.preview.Top + 150, 225, 225);
+  const ApplicationFont font(12);
+  show([&] {
+    EXPECT_GT(view(form.group).width(), 176);
+    EXPECT_EQ(view(form.preview).size(), QSize(25, 25));
+    EXPECT_EQ(view(mark).geometry().topLeft() - view(form.preview).geometry().topLeft(), QPoint(5, 10));
+    EXPECT_EQ(view(mark).size(), QSize(15, 15));
+  });
+}
+
+TEST_F(FormViewTest, APreviewIsSharpOnItsScreen) {
+  form.preview.Line(filled_box_flags, 0, 0, 12, 24, blue);
+  show([&] {
+    for (int x = 0; x < 25; x += 3) form.preview.Line(line_flags, x, 0, x, 24, red);
+    const QImage shown = view(form.preview).grab().toImage().convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(shown, dynamic_cast<const qt::ImageSurface&>(*form.preview.device()).image());
+    EXPECT_EQ(shown.devicePixelRatio(), view(form).devicePixelRatioF());
+  });
+}
+
+TEST_F(FormViewTest, TextsCanBeReadInADarkWindow) {
+  face.setPalette(QPalette(QColor(50, 50, 50)));
+  form.size_label.Enabled = false;
+  show([&] {
+    EXPECT_EQ(view(form).palette().color(QPalette::Window), face.palette().color(QPalette::Window));
+    const auto brightest = [&](const Widget& widget) {
+      int most = 0;
+      for (const Color color : colors_in(view(widget).grab().toImage()))
+        most = std::max(most, qt::qcolor_of(color).lightness());
+      return most;
+    };
+    EXPECT_GT(brightest(form.white), 200);
+    EXPECT_GT(brightest(form.size_label), 120);
+    EXPECT_LT(brightest(form.size_label), 200) << "grey";
   });
 }
 

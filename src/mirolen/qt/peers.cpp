@@ -9,10 +9,26 @@
 namespace mirolen::qt {
 namespace {
 
+QRect told_place(const Widget& widget) {
+  return QRect(pixels_of(widget.Left), pixels_of(widget.Top), pixels_of(widget.Width),
+               pixels_of(widget.Height));
+}
+
+/// The picture on which a cross marks a place, one of its siblings; null for none.
+const Widget* picture_under(const Widget& widget) {
+  const auto* mark = dynamic_cast<const Shape*>(&widget);
+  if (!mark || mark->Look != Shape::Form::cross) return nullptr;
+  for (const Widget* sibling : widget.container()->children())
+    if (sibling->kind() == WidgetKind::picture_box) return sibling;
+  return nullptr;
+}
+
 /// Both edges are rounded, so that neighbours meet. What shows an image keeps the size in pixels of that
-/// instead, in the middle of its place.
+/// instead, in the middle of its place, and takes its mark along.
 QRect place_of(const Widget& widget) {
   if (const auto* line = dynamic_cast<const LineShape*>(&widget)) return LineView::place_of(*line);
+  if (const Widget* picture = picture_under(widget))
+    return told_place(widget).translated(place_of(*picture).topLeft() - told_place(*picture).topLeft());
   const QSizeF stretch = stretch_in(*widget.container());
   const double left = widget.Left * stretch.width(), width = widget.Width * stretch.width();
   const double top = widget.Top * stretch.height(), height = widget.Height * stretch.height();

@@ -24,10 +24,14 @@ QColor seen_background(const Widget& widget) {
   return own_background(*shown);
 }
 
-/// Text that takes input or none, on a background.
+/// The colour of a text on a background. The grey of what takes no input can be read too, whatever the
+/// palette has for it.
 QColor text_color(const QWidget& view, const QColor& background) {
-  const QColor text = view.palette().color(QPalette::WindowText);
-  return view.isEnabled() ? readable_on(background, text) : text;
+  const QColor text = readable_on(background, view.palette().color(QPalette::Active, QPalette::WindowText));
+  if (view.isEnabled()) return text;
+  const auto middle = [](int one, int other) { return (one + other) / 2; };
+  return QColor(middle(text.red(), background.red()), middle(text.green(), background.green()),
+                middle(text.blue(), background.blue()));
 }
 
 constexpr int caption_indent = 8, caption_gap = 2;
@@ -100,7 +104,9 @@ void LabelView::show_state() {
   listen_for(QKeySequence::mnemonic(text()));
 }
 
-QSize LabelView::needed_size() const { return size_of_text(font(), *this, text()); }
+QSize LabelView::needed_size() const {
+  return size_of_text(font(), *this, text()) + QSize(QFontMetrics(font(), this).horizontalAdvance(' '), 0);
+}
 
 void LabelView::listen_for(const QKeySequence& keys) {
   if (keys == keys_) return;

@@ -33,6 +33,7 @@ class LabelView : public ChildView, public StateView, public TextView {
  public:
   LabelView(QWidget& parent, Label& label) : ChildView(parent, label), label_(label) {}
   void show_state() override;
+  /// With a blank between the text and what is beside it.
   QSize needed_size() const override;
 
  protected:
