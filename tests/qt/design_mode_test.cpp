@@ -6,6 +6,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "mirolen/dialogs/PropertyDialog.h"
+#include "mirolen/dialogs/plan_pages.h"
 #include "mirolen/qt/Plot2DN.h"
 #include "mirolen/qt/peers.h"
 #include "qt/qt_support.h"
@@ -77,6 +79,39 @@ TEST(DesignMode, OffersNoPlotOptionsWhereThereAreNone) {
   ASSERT_NE(menu, nullptr);
   EXPECT_EQ(texts_of(*menu), (QStringList{"Properties...", "About..."}));
   menu->close();
+}
+
+TEST(DesignMode, OpensTheFormsOfTheControl) {
+  qt::Plot2D face;
+  QStringList titles;
+  face.toolkit().on_form = [&](Form& form) { titles << QString::fromStdString(form.Caption.get()); };
+  face.setDesignMode(true);
+  for (const int entry : {0, 1, 2}) {
+    QMenu* const menu = Designed<qt::Plot2D>::menu_on(face);
+    ASSERT_NE(menu, nullptr);
+    menu->actions().at(entry)->trigger();
+    menu->close();
+    QTest::qWait(0);
+  }
+  EXPECT_EQ(titles, (QStringList{"Property Pages", "Define Plot Options", "Sonvera.OCX ActiveX Control"}));
+}
+
+TEST(DesignMode, ShowsTheEffectOfAnEditedProperty) {
+  qt_test::ShownPlot plot;
+  const auto before = plot.rendering();
+  plot.face.toolkit().on_form = [](Form& form) {
+    auto& dialog = dynamic_cast<PropertyDialog&>(form);
+    dynamic_cast<Plot2DProp&>(dialog.page(1)).txtResolution.Text("8");
+    dialog.OKbtn.OnClick();
+  };
+  plot.face.setDesignMode(true);
+  QMenu* const menu = Designed<qt::Plot2D>::menu_on(plot.face);
+  ASSERT_NE(menu, nullptr);
+  menu->actions().at(0)->trigger();
+  menu->close();
+  QTest::qWait(0);
+  EXPECT_EQ(plot.face.Resolution(), 8);
+  EXPECT_NE(plot.rendering(), before);
 }
 
 }  // namespace

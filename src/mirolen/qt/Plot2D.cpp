@@ -1,5 +1,7 @@
 #include "mirolen/qt/Plot2D.h"
 
+#include "mirolen/controls/descriptions.h"
+
 namespace mirolen::qt {
 
 Plot2D::Plot2D(QWidget* parent) : CellMapWidget(parent) {

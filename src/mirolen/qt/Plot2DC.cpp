@@ -1,5 +1,6 @@
 #include "mirolen/qt/Plot2DC.h"
 
+#include "mirolen/controls/descriptions.h"
 #include "mirolen/qt/translate.h"
 
 namespace mirolen::qt {

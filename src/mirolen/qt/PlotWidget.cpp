@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "mirolen/dialogs/PropertyDialog.h"
 #include "mirolen/qt/ChildView.h"
 #include "mirolen/qt/Picture.h"
 #include "mirolen/qt/translate.h"
@@ -78,7 +79,7 @@ PlotWidget::~PlotWidget() {
 
 Container& PlotWidget::container() { return *host_; }
 
-void PlotWidget::adopt(std::unique_ptr<ControlFrame> control) {
+void PlotWidget::take(std::unique_ptr<ControlFrame> control) {
   control_ = std::move(control);
   mouse_ = std::make_unique<MouseRelay>(*this, *control_);
   resize(sizeHint());
@@ -140,6 +141,12 @@ void PlotWidget::setDesignMode(bool v) {
   if (v == design_mode_) return;
   design_mode_ = v;
   emit DesignModeChanged();
+}
+
+void PlotWidget::open_properties() {
+  const QPointer<PlotWidget> alive(this);
+  PropertyDialog(*toolkit_, {by_name_}).Show();
+  if (alive) redraw();
 }
 
 QSize PlotWidget::sizeHint() const { return size_of(ControlFrame::usual_size); }

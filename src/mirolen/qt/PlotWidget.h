@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "mirolen/automation/ClassInfo.h"
 #include "mirolen/controls/ControlFrame.h"
 #include "mirolen/qt/QtToolkit.h"
 
@@ -142,7 +143,11 @@ class PlotWidget : public QWidget {
   /// What the control of a derived face lies on.
   Container& container();
   /// Takes the control, which is new, and gives it its first settings.
-  void adopt(std::unique_ptr<ControlFrame> control);
+  template <class Control>
+  void adopt(std::unique_ptr<Control> control) {
+    by_name_ = described(*control);
+    take(std::move(control));
+  }
   /// The control, in the size that this face has now.
   ControlFrame& frame();
   const ControlFrame& frame() const { return *control_; }
@@ -161,9 +166,9 @@ class PlotWidget : public QWidget {
   void change_ratio(double ratio);
 
   // What the entries of the menu in design use open.
-  virtual void open_properties() {}
-  virtual void open_plot_options() {}
-  virtual void open_about() {}
+  virtual void open_properties();
+  virtual void open_plot_options() { ShowPlotOption(); }
+  virtual void open_about() { About(); }
   /// Whether the menu offers plot options.
   virtual bool has_plot_options() const { return true; }
 
@@ -182,6 +187,7 @@ class PlotWidget : public QWidget {
   class Host;
   class Remains;
 
+  void take(std::unique_ptr<ControlFrame> control);
   void property_changed(std::string_view name);
   void take_size();
   void take_ratio();
@@ -191,6 +197,7 @@ class PlotWidget : public QWidget {
   std::unique_ptr<QtToolkit> toolkit_;
   std::unique_ptr<Host> host_;
   std::unique_ptr<ControlFrame> control_;
+  automation::Object by_name_;
   std::unique_ptr<class MouseRelay> mouse_;
   QSize told_;
   bool seen_ = false;

@@ -1,4 +1,6 @@
 #include "mirolen/qt/Plot2DN.h"
+
+#include "mirolen/controls/descriptions.h"
 #include "mirolen/qt/Plot2DS.h"
 
 namespace mirolen::qt {

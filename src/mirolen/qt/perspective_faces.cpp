@@ -1,4 +1,6 @@
 #include "mirolen/qt/Plot2DB.h"
+
+#include "mirolen/controls/descriptions.h"
 #include "mirolen/qt/Plot3D.h"
 #include "mirolen/qt/Plot3DS.h"
 
