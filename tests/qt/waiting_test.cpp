@@ -73,6 +73,21 @@ TEST_F(DeletedWhileItWaits, ForAFormTheFormEnds) {
   EXPECT_TRUE(alive.expired());
 }
 
+TEST_F(DeletedWhileItWaits, ForItsOptionsAfterAClickTheyClose) {
+  bool shown = false;
+  QTimer::singleShot(0, face, [&] {
+    shown = QApplication::activeModalWidget() != nullptr;
+    delete face.data();
+  });
+  QTest::mouseClick(qt::view_of(face->control().Command1), Qt::LeftButton);
+  EXPECT_TRUE(shown);
+  EXPECT_EQ(face, nullptr);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_FALSE(alive.expired());
+  go_on();
+  EXPECT_TRUE(alive.expired());
+}
+
 TEST_F(DeletedWhileItWaits, AtOtherTimesItsControlGoesWithIt) {
   delete face.data();
   EXPECT_TRUE(alive.expired());
