@@ -87,10 +87,11 @@ TEST_F(WaferInfoPage, IsChangedByEveryField) {
   const std::vector<std::function<void()>> edits{
       [&] { page.txtWaferDiameter.Text("201"); }, [&] { page.txtTestDiameter.Text("195.5"); },
       [&] { page.nfbox(2).Value(true); }, [&] { page.showLeg.Value(true); }};
+  int told = 0;
+  page.OnChanged = [&] { told += page.Changed(); };
   for (const auto& edit : edits) {
     page.SelectionChanged({control.object()});
-    int told = 0;
-    page.OnChanged = [&] { told += page.Changed(); };
+    told = 0;
     edit();
     EXPECT_TRUE(page.Changed());
     EXPECT_GT(told, 0);
