@@ -17,13 +17,12 @@ class Plot2DN : public MapWidget {
   mirolen::Plot2DN& control() { return frame_as<mirolen::Plot2DN>(); }
   const mirolen::Plot2DN& control() const { return frame_as<mirolen::Plot2DN>(); }
 
+  bool has_plot_options() const override { return false; }
+
  public slots:
   int PrintGridNumber(double left, double top, double width, double height, bool DrawFrame = false) {
     return control().PrintGridNumber(left, top, width, height, DrawFrame);
   }
-
- protected:
-  bool has_plot_options() const override { return false; }
 };
 
 }  // namespace mirolen::qt

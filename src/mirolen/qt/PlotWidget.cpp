@@ -143,7 +143,7 @@ void PlotWidget::setDesignMode(bool v) {
   emit DesignModeChanged();
 }
 
-void PlotWidget::open_properties() {
+void PlotWidget::ShowProperties() {
   const QPointer<PlotWidget> alive(this);
   PropertyDialog(*toolkit_, {by_name_}).Show();
   if (alive) redraw();

@@ -91,6 +91,12 @@ class PlotWidget : public QWidget {
   bool DesignMode() const { return design_mode_; }
   void setDesignMode(bool v);
 
+  /// Whether ShowPlotOption has a form to show.
+  virtual bool has_plot_options() const { return true; }
+
+  /// The control, for calls by name and for its stored properties.
+  const automation::Object& by_name() const { return by_name_; }
+
   /// What the print members draw on: a PrintJob, or any other canvas of the host. A new face has one on the
   /// default printer of the system.
   std::shared_ptr<PlotCanvas> PrinterObj() const { return control_->PrinterObj; }
@@ -105,6 +111,8 @@ class PlotWidget : public QWidget {
  public slots:
   int Plot() { return frame().Plot(); }
   void ShowPlotOption() { frame().ShowPlotOption(); }
+  /// Shows the control's property pages and, when they are closed, what has become of the plot.
+  void ShowProperties();
   void clear() { control_->clear(); }
   bool SetPlotLimit(double LPL, double UPL) { return frame().SetPlotLimit(LPL, UPL); }
   void ReleasePlotLimit() { frame().ReleasePlotLimit(); }
@@ -166,11 +174,9 @@ class PlotWidget : public QWidget {
   void change_ratio(double ratio);
 
   // What the entries of the menu in design use open.
-  virtual void open_properties();
+  virtual void open_properties() { ShowProperties(); }
   virtual void open_plot_options() { ShowPlotOption(); }
   virtual void open_about() { About(); }
-  /// Whether the menu offers plot options.
-  virtual bool has_plot_options() const { return true; }
 
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
