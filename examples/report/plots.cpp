@@ -63,7 +63,8 @@ void fit_to_data(PlotWidget& plot) {
   const double range = plot.range();
   if (!(range > 0)) return;
   if (auto* bars = qobject_cast<Plot2DB*>(&plot)) bars->setBeamScale(highest_bar / range);
-  if (auto* contour = qobject_cast<Plot2DC*>(&plot))
+  auto* const contour = qobject_cast<Plot2DC*>(&plot);
+  if (contour && contour->IntervalInPercent() != 0)
     contour->setInterval(QString::number(range / curves, 'g', 2).toDouble());  // the legend shows it
 }
 
@@ -73,4 +74,12 @@ void mark_sites(PlotWidget& plot, bool on) {
   if (auto* scan = qobject_cast<LineScan*>(&plot)) scan->setShowSites(on);
   if (auto* contour = qobject_cast<Plot2DC*>(&plot))
     contour->setMarksites(on ? Plot2DC::Exact : Plot2DC::None);
+}
+
+std::optional<bool> sites_marked(const PlotWidget& plot) {
+  if (const auto* map = qobject_cast<const CellMapWidget*>(&plot))
+    return map->ShowSites() == CellMapWidget::ShowSite;
+  if (const auto* scan = qobject_cast<const LineScan*>(&plot)) return scan->ShowSites();
+  if (const auto* contour = qobject_cast<const Plot2DC*>(&plot)) return contour->marksites() != Plot2DC::None;
+  return std::nullopt;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <vector>
 
 #include "mirolen/qt/PlotWidget.h"
@@ -18,9 +19,11 @@ std::vector<NamedPlot> nine_plots(QWidget* parent);
 /// which all that can be printed fits into.
 NamedPlot twin_of(const NamedPlot& original, QWidget* parent);
 
-/// Chooses what depends on the size of the values: the height of bars and the spacing of curves. Without it
-/// both are far off for values of another magnitude.
+/// Chooses what depends on the size of the values: the height of bars and the spacing of curves, unless that
+/// is in percent. Without it both are far off for values of another magnitude.
 void fit_to_data(mirolen::qt::PlotWidget& plot);
 
 /// Marks the sites on a plot that has marks for them.
 void mark_sites(mirolen::qt::PlotWidget& plot, bool on);
+/// Whether they are marked; nothing for a plot without marks.
+std::optional<bool> sites_marked(const mirolen::qt::PlotWidget& plot);

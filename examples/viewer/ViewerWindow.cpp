@@ -21,7 +21,10 @@ ViewerWindow::ViewerWindow(double wafer_diameter, double test_diameter, QString 
   add_file_menu();
   add_edit_menu();
   add_view_menu();
+  add_options_menu();
+  add_help_menu();
   enable_actions();
+  follow_plot();
   setWindowTitle(tr("Wafer viewer"));
   resize(1050, 740);
 }
@@ -34,6 +37,8 @@ void ViewerWindow::add_pages(double wafer_diameter, double test_diameter) {
     mark_sites(*named.plot, false);
     tabs_->addTab(named.plot, named.title);
     pages_.push_back({named});
+    connect(named.plot, &PlotWidget::WaferDiameterChanged, this,
+            [this, page = pages_.size() - 1] { data_gone(pages_[page]); });
   }
   connect(tabs_, &QTabWidget::currentChanged, this, &ViewerWindow::show_page);
 }
@@ -50,13 +55,15 @@ void ViewerWindow::add_file_menu() {
 
 void ViewerWindow::add_view_menu() {
   QMenu* const menu = menuBar()->addMenu(tr("&View"));
-  QAction* const sites = menu->addAction(tr("Show &sites"));
-  sites->setCheckable(true);
-  connect(sites, &QAction::toggled, this,
+  // The plot can change in its own forms too.
+  connect(menu, &QMenu::aboutToShow, this, &ViewerWindow::follow_plot);
+  sites_ = menu->addAction(tr("Show &sites"));
+  sites_->setCheckable(true);
+  connect(sites_, &QAction::triggered, this,
           [this](bool on) { change_looks([on](PlotWidget& plot) { mark_sites(plot, on); }); });
-  QAction* const legend = menu->addAction(tr("Hide &legend"));
-  legend->setCheckable(true);
-  connect(legend, &QAction::toggled, this,
+  legend_ = menu->addAction(tr("Hide &legend"));
+  legend_->setCheckable(true);
+  connect(legend_, &QAction::triggered, this,
           [this](bool on) { change_looks([on](PlotWidget& plot) { plot.setHideLegend(on); }); });
 
   menu->addSeparator();
@@ -66,12 +73,12 @@ void ViewerWindow::add_view_menu() {
 }
 
 void ViewerWindow::add_style_actions(QMenu& menu) {
-  auto* const styles = new QActionGroup(this);
+  styles_ = new QActionGroup(this);
   for (const auto& [text, style] :
        {std::pair(tr("&Notch"), PlotWidget::Notch), std::pair(tr("&Flat"), PlotWidget::Flat)}) {
-    QAction* const action = styles->addAction(menu.addAction(text));
+    QAction* const action = styles_->addAction(menu.addAction(text));
     action->setCheckable(true);
-    action->setChecked(style == plot(0).WaferStyle());
+    action->setData(style);
     connect(action, &QAction::triggered, this, [this, style = style] {
       change_looks([style](PlotWidget& plot) { plot.setWaferStyle(style); });
     });
@@ -92,11 +99,12 @@ QLayout* ViewerWindow::side_column() {
   form->addRow(tr("&Wafer"), wafers_);
   connect(wafers_, &QComboBox::currentIndexChanged, this, &ViewerWindow::show_wafer);
   for (std::size_t i = 0; i < names.size(); ++i) {
-    figures_[i] = new QLabel("-");
+    figures_[i] = new QLabel;
     figures_[i]->setTextInteractionFlags(Qt::TextSelectableByMouse);
     figures_[i]->setMinimumWidth(80);
     form->addRow(names[i], figures_[i]);
   }
+  clear_statistics();
   return form;
 }
 
@@ -113,18 +121,37 @@ ViewerWindow::Page& ViewerWindow::seen_page() {
 }
 
 void ViewerWindow::show_page() {
+  follow_plot();
+  if (lot_.empty()) return;
   Page& page = seen_page();
-  PlotWidget& plot = *page.named.plot;
-  if (lot_.empty() || page.drawn) return;
-  if (!page.loaded) {
-    if (const int result = lot_[seen_wafer()].load(plot); result != 0)
-      return complain(tr("The plot refuses these sites (result %1).").arg(result));
-    fit_to_data(plot);
-    page.loaded = true;
-  }
-  plot.Plot();
+  if (page.data == Data::due) load(page);
+  if (page.data == Data::refused) return clear_statistics();
+  if (!page.drawn) page.named.plot->Plot();
   page.drawn = true;
-  show_statistics(plot);
+  show_statistics(*page.named.plot);
+}
+
+void ViewerWindow::load(Page& page) {
+  PlotWidget& plot = *page.named.plot;
+  const int result = lot_[seen_wafer()].load(plot);
+  page.data = result == 0 ? Data::loaded : Data::refused;
+  if (page.data == Data::refused) {
+    plot.clear();
+    return complain(tr("The plot refuses these sites (result %1).").arg(result));
+  }
+  if (!page.fitted) fit_to_data(plot);
+  page.fitted = true;
+}
+
+void ViewerWindow::data_gone(Page& page) {
+  page.data = Data::due;
+  page.drawn = false;
+  // The plot is in the middle of a change.
+  QMetaObject::invokeMethod(this, &ViewerWindow::show_page, Qt::QueuedConnection);
+}
+
+void ViewerWindow::clear_statistics() {
+  for (QLabel* figure : figures_) figure->setText("-");
 }
 
 void ViewerWindow::show_statistics(PlotWidget& plot) {

@@ -9,6 +9,7 @@
 #include "lot.h"
 
 class QAction;
+class QActionGroup;
 class QComboBox;
 class QPrinter;
 class QTabWidget;
@@ -47,9 +48,11 @@ class ViewerWindow : public QMainWindow {
   virtual void complain(const QString& text);
 
  private:
+  enum class Data { due, loaded, refused };
   struct Page {
     NamedPlot named;
-    bool loaded = false, drawn = false;
+    Data data = Data::due;
+    bool fitted = false, drawn = false;
   };
 
   void add_pages(double wafer_diameter, double test_diameter);
@@ -59,6 +62,8 @@ class ViewerWindow : public QMainWindow {
   void add_view_menu();
   void add_style_actions(QMenu& menu);
   void add_wafer_actions(QMenu& menu);
+  void add_options_menu();
+  void add_help_menu();
   QLayout* side_column();
   void ask_csv();
   void ask_binary();
@@ -68,6 +73,13 @@ class ViewerWindow : public QMainWindow {
   void enable_actions();
   void change_looks(const std::function<void(mirolen::qt::PlotWidget&)>& change);
   void show_page();
+  void load(Page& page);
+  /// Has the wafer loaded again, when the page is seen.
+  void data_gone(Page& page);
+  void open_form(void (mirolen::qt::PlotWidget::*form)());
+  /// Brings the menus into line with the plot that is seen.
+  void follow_plot();
+  void clear_statistics();
   void show_statistics(mirolen::qt::PlotWidget& plot);
 
   void ask_printer();
@@ -89,5 +101,9 @@ class ViewerWindow : public QMainWindow {
   std::vector<QAction*> need_data_;
   QAction* next_ = nullptr;
   QAction* previous_ = nullptr;
+  QAction* sites_ = nullptr;
+  QAction* legend_ = nullptr;
+  QActionGroup* styles_ = nullptr;
+  QAction* plot_options_ = nullptr;
   std::array<QLabel*, 8> figures_{};
 };

@@ -38,7 +38,7 @@ bool ViewerWindow::open_csv(const QStringList& paths) {
   for (const QString& path : paths) {
     try {
       SiteList sites = read_csv(path);
-      check_sites(sites, plot(0).WaferDiameter());
+      check_sites(sites, seen_page().named.plot->WaferDiameter());
       wafers.push_back({path, [sites = std::move(sites)](PlotWidget& plot) {
                           return plot.SetWaferData(sites.x, sites.y, sites.z);
                         }});
@@ -52,7 +52,7 @@ bool ViewerWindow::open_csv(const QStringList& paths) {
 
 bool ViewerWindow::open_binary(const QString& path, int sites) {
   try {
-    check_binary(path, sites, plot(0).WaferDiameter());
+    check_binary(path, sites, seen_page().named.plot->WaferDiameter());
   } catch (const WaferFileError& error) {
     complain(tr("%1\n\n%2").arg(path, error.text()));
     return false;
@@ -80,7 +80,7 @@ std::size_t ViewerWindow::seen_wafer() const { return static_cast<std::size_t>(w
 void ViewerWindow::show_wafer() {
   const LotWafer& wafer = lot_.at(seen_wafer());
   for (Page& page : pages_) {
-    page.loaded = page.drawn = false;
+    page = {page.named};
     page.named.plot->setProperty("PlotCaption", wafer.name());
   }
   setWindowTitle(tr("%1 - Wafer viewer").arg(QFileInfo(wafer.file).fileName()));
