@@ -4,8 +4,10 @@
 #include <QMainWindow>
 #include <array>
 #include <functional>
+#include <optional>
 #include <vector>
 
+#include "ViewerSettings.h"
 #include "lot.h"
 
 class QAction;
@@ -13,6 +15,7 @@ class QActionGroup;
 class QComboBox;
 class QPrinter;
 class QTabWidget;
+struct ViewerOptions;
 
 /// A window with the nine plots of a wafer, a page each, and its statistics; of several files that are open
 /// one is shown. Only the page that is seen draws. What fails is told by a message.
@@ -20,6 +23,10 @@ class ViewerWindow : public QMainWindow {
  public:
   /// Diameters in millimetres. The unit is that of the values; it appears in reports.
   ViewerWindow(double wafer_diameter, double test_diameter, QString unit = {});
+
+  /// Shows itself with the settings that were kept, then with what is given. If a folder for settings is
+  /// given, the window writes them when it is closed.
+  void start(const ViewerOptions& options);
 
   /// A page by its place, the colour map first.
   mirolen::qt::PlotWidget& plot(int page) { return *pages_.at(static_cast<std::size_t>(page)).named.plot; }
@@ -46,6 +53,7 @@ class ViewerWindow : public QMainWindow {
  protected:
   /// Tells the user what is wrong.
   virtual void complain(const QString& text);
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   enum class Data { due, loaded, refused };
@@ -82,6 +90,8 @@ class ViewerWindow : public QMainWindow {
   void clear_statistics();
   void show_statistics(mirolen::qt::PlotWidget& plot);
 
+  void take_diameters(const ViewerOptions& options);
+  void complain_of(const QString& what, QStringList wrong);
   void ask_printer();
   void preview();
   void ask_file_for(const QString& title, const QString& filter, const QString& suffix,
@@ -96,6 +106,8 @@ class ViewerWindow : public QMainWindow {
   QTabWidget* tabs_;
   QComboBox* wafers_;
   QString unit_;
+  std::optional<ViewerSettings> settings_;
+  bool keep_diameters_ = true;
   std::vector<Page> pages_;
   std::vector<LotWafer> lot_;
   std::vector<QAction*> need_data_;
