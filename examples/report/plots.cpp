@@ -62,10 +62,11 @@ void fit_to_data(PlotWidget& plot) {
   constexpr int curves = 10;
   const double range = plot.range();
   if (!(range > 0)) return;
-  if (auto* bars = qobject_cast<Plot2DB*>(&plot)) bars->setBeamScale(highest_bar / range);
+  // The legend and the forms show them.
+  const auto rounded = [](double value) { return QString::number(value, 'g', 2).toDouble(); };
+  if (auto* bars = qobject_cast<Plot2DB*>(&plot)) bars->setBeamScale(rounded(highest_bar / range));
   auto* const contour = qobject_cast<Plot2DC*>(&plot);
-  if (contour && contour->IntervalInPercent() != 0)
-    contour->setInterval(QString::number(range / curves, 'g', 2).toDouble());  // the legend shows it
+  if (contour && contour->IntervalInPercent() != 0) contour->setInterval(rounded(range / curves));
 }
 
 void mark_sites(PlotWidget& plot, bool on) {

@@ -18,7 +18,9 @@ void ViewerWindow::start(const ViewerOptions& options) {
   }
   take_diameters(options);
   show();
-  complain_of(tr("The usual settings stand in for those that are not in order:"), wrong);
+  complain_of(
+      tr("Not all settings could be used. The usual ones stand in for them; a broken file is left as it is."),
+      wrong);
   if (!options.files.isEmpty()) open_csv(options.files);
 }
 
