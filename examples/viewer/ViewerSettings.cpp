@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QSettings>
 #include <QTabWidget>
+#include <algorithm>
 
 #include "mirolen/qt/SettingsBag.h"
 
@@ -15,10 +16,10 @@ using mirolen::qt::SettingsBag;
 
 namespace {
 
-const QString geometry_key("geometry"), page_key("page");
+constexpr const char *geometry_key = "geometry", *page_key = "page";
 
-/// The class of a plot with those of its stored properties only that are no one's on a list, and with no
-/// defaults but their present values.
+/// The class of a plot without some of its stored properties. What is missing in a file keeps its present
+/// value, not the control's default.
 ClassInfo without(const PlotWidget& plot, const std::vector<std::string>& properties) {
   ClassInfo info = *plot.by_name().info;
   std::erase_if(info.stored, [&](const StoredKey& key) {

@@ -17,6 +17,7 @@ void ViewerWindow::start(const ViewerOptions& options) {
     settings_->read_window(*this, *tabs_);
   }
   take_diameters(options);
+  follow_plot();
   show();
   complain_of(
       tr("Not all settings could be used. The usual ones stand in for them; a broken file is left as it is."),

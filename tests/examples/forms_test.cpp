@@ -56,6 +56,7 @@ TEST_F(ViewerForms, OpensTheFormsOfThePlotThatIsSeen) {
 }
 
 TEST_F(ViewerForms, AreReachedByTheKeyboard) {
+  window.activateWindow();  // as a window manager does
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   QTest::keyClick(&window, Qt::Key_F4);
   QTest::keyClick(&window, Qt::Key_Return, Qt::AltModifier);

@@ -84,6 +84,9 @@ TEST_F(Settings, OfEachPlotComeBack) {
     EXPECT_EQ(plot.WaferStyle(), page % 3 == 0 ? qt::PlotWidget::Flat : qt::PlotWidget::Notch) << page;
   }
   EXPECT_EQ(window->map().Resolution(), 9);
+  window->tabs().setCurrentIndex(3);
+  EXPECT_TRUE(window->action("Flat").isChecked());
+  EXPECT_TRUE(window->action("Hide legend").isChecked());
   EXPECT_EQ(window->plot(1).property("SigmaRange"), 0.7);
   EXPECT_TRUE(sites_marked(window->plot(1)).value());
   EXPECT_FALSE(sites_marked(window->map()).value());
