@@ -1,9 +1,11 @@
 #include "mirolen/widgets/Form.h"
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 
-Form::Form(Toolkit& toolkit, std::string text)
-    : Widget(WidgetKind::form, toolkit), Caption(*this, std::move(text)) {
+Form::Form(Toolkit& toolkit, std::string_view text)
+    : Widget(WidgetKind::form, toolkit), Caption(*this, tr(text)) {
   Visible = false;
 }
 

@@ -11,7 +11,7 @@ namespace mirolen {
 /// in the order of their creation.
 class Form : public Widget {
  public:
-  explicit Form(Toolkit& toolkit, std::string text = {});
+  explicit Form(Toolkit& toolkit, std::string_view text = {});
 
   Property<Widget, std::string> Caption;
   Button* DefaultButton = nullptr;  ///< What Return presses.

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/render/Companions.h"
 #include "mirolen/widgets/Widget.h"
 
@@ -11,8 +12,8 @@ namespace mirolen {
 /// A box with a caption on its top edge, round other widgets.
 class Frame : public Widget, public CaptionLabel {
  public:
-  explicit Frame(Widget* container, std::string text = {})
-      : Widget(WidgetKind::frame, container), Caption(*this, std::move(text)) {}
+  explicit Frame(Widget* container, std::string_view text = {})
+      : Widget(WidgetKind::frame, container), Caption(*this, tr(text)) {}
 
   Property<Widget, std::string> Caption;
   Property<Widget, bool> Border{*this, true};
@@ -23,8 +24,8 @@ class Frame : public Widget, public CaptionLabel {
 /// A line of text. With AutoSize it is as wide as its text.
 class Label : public Widget, public ValueLabel {
  public:
-  explicit Label(Widget* container, std::string text = {})
-      : Widget(WidgetKind::label, container), Caption(*this, std::move(text)) {}
+  explicit Label(Widget* container, std::string_view text = {})
+      : Widget(WidgetKind::label, container), Caption(*this, tr(text)) {}
 
   Property<Widget, std::string> Caption;
   Property<Widget, FontSpec> Font{*this, {}};
@@ -42,8 +43,8 @@ class Label : public Widget, public ValueLabel {
 
 class Button : public Widget {
  public:
-  explicit Button(Widget* container, std::string text = {})
-      : Widget(WidgetKind::button, container), Caption(*this, std::move(text)) {}
+  explicit Button(Widget* container, std::string_view text = {})
+      : Widget(WidgetKind::button, container), Caption(*this, tr(text)) {}
 
   Property<Widget, std::string> Caption;
   /// The letter of the caption that presses the button; 0 for none.
@@ -54,8 +55,8 @@ class Button : public Widget {
 /// Choosing another, by program or by the user, raises OnClick.
 class OptionButton : public Widget {
  public:
-  explicit OptionButton(Widget* container, std::string text = {})
-      : Widget(WidgetKind::option_button, container), Caption(*this, std::move(text)) {}
+  explicit OptionButton(Widget* container, std::string_view text = {})
+      : Widget(WidgetKind::option_button, container), Caption(*this, tr(text)) {}
 
   Property<Widget, std::string> Caption;
   /// The letter of the caption that chooses it; 0 for none.
@@ -70,8 +71,8 @@ class OptionButton : public Widget {
 /// A box that is ticked or not. Another value, by program or by the user, raises OnClick.
 class CheckBox : public Widget {
  public:
-  explicit CheckBox(Widget* container, std::string text = {})
-      : Widget(WidgetKind::check_box, container), Caption(*this, std::move(text)) {}
+  explicit CheckBox(Widget* container, std::string_view text = {})
+      : Widget(WidgetKind::check_box, container), Caption(*this, tr(text)) {}
 
   Property<Widget, std::string> Caption;
   /// The letter of the caption that ticks and unticks it; 0 for none.
