@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "print_support.h"
+#include "support/translators.h"
 
 namespace mirolen {
 namespace {
@@ -92,6 +93,22 @@ TEST(ReportBlocks, WriteAllLabelsAndThenAllValues) {
   EXPECT_THAT(texts(with(values(1, 3, 2, 0.5)), kStatistics),
               ElementsAre("Statistics ", "Mean:", "Maximum:", "Minimum:", "Std. Dev:", "Range:", "Hi/Lo Var:",
                           "Unit:", "2.0", "3.0", "1.0", "0.5", "25.00 %", "2.0", "50.00 %", "µm"));
+}
+
+// Its capitals are wider: two labels lose their colons to the width of the column.
+TEST(ReportBlocks, SpeakTheLanguageInForce) {
+  const TranslatorInForce loud(shouted);
+  EXPECT_THAT(texts(with(sample_wafer(7, 1)), kSize),
+              ElementsAre("SIZE ", "WAFER DIAM", "TEST DIAM:", "NO. SITES:", "STYLE:", "200.00 mm",
+                          "190.00 mm", "7", "NOTCH"));
+  EXPECT_EQ(texts(with(sample_wafer(7, 0.98)), kSize).back(), "FLAT");
+  EXPECT_THAT(texts(with(values(1, 3, 2, 0.5)), kStatistics),
+              ElementsAre("STATISTICS ", "MEAN:", "MAXIMUM:", "MINIMUM:", "STD. DEV:", "RANGE:", "HI/LO VAR:",
+                          "UNIT:", "2.0", "3.0", "1.0", "0.5", "25.00 %", "2.0", "50.00 %", "µm"));
+  const Lines remarks = texts(with(sample_wafer()), kRemarks);
+  EXPECT_THAT(Lines(remarks.begin(), remarks.begin() + 3),
+              ElementsAre("WAFER REMARKS ", "OPERATOR ID", "FAB NAME:"));
+  EXPECT_EQ(texts(with(sample_wafer()), kLegend).front(), "LEGEND ");
 }
 
 TEST(ReportBlocks, TellANotchByARatioOfExactlyOne) {

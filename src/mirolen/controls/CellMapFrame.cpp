@@ -1,5 +1,6 @@
 #include "mirolen/controls/CellMapFrame.h"
 
+#include "mirolen/core/translation.h"
 #include "mirolen/render/StringFormat.h"
 
 namespace mirolen {
@@ -30,8 +31,8 @@ void CellMapFrame::prepare_redraw() {
   if (!(finest < resolution_)) return;
   resolution_ = finest;
   notify("Resolution");
-  toolkit().message_box("Maximal possible resolution is " + StringFormat::plain_text(finest) + " mm",
-                        "Standard resolution to high ", MessageIcon::critical);
+  toolkit().message_box(tr("Maximal possible resolution is ") + StringFormat::plain_text(finest) + " mm",
+                        tr("Standard resolution to high "), MessageIcon::critical);
   ShowPlotOption();
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "mirolen/controls/Hourglass.h"
+#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/input_checks.h"
 
 namespace mirolen {
@@ -69,7 +70,7 @@ void LineScan::place_children() {
   lblX(4).Width = 840;  // its text ends at the chart's edge
   for (int panel = 0; panel < 2; ++panel)
     FNLabel(panel).Move(0, 0, 2385, 1350);  // clear of the button at the smallest width
-  FNLabel(0).Caption = "Angle :";
+  FNLabel(0).Caption = tr("Angle :");
   FNLabel(1).Visible = false;
   for (PictureBox* miniature : {&FNPic, &Picture1}) miniature->Move(150, 255, 990, 990);
   for (Shape* cross : {&picplus, &Picture2}) {
@@ -97,7 +98,8 @@ void LineScan::show_panels() {
 
 void LineScan::angle(std::int16_t v) {
   if (v < 0 || v > full_turn) {
-    toolkit().message_box("Angle value must be between 0 and 359", "Input Error", MessageIcon::critical);
+    toolkit().message_box(tr("Angle value must be between 0 and 359"), tr("Input Error"),
+                          MessageIcon::critical);
     return;
   }
   const std::int16_t told = told_angle_;
@@ -214,7 +216,7 @@ void LineScan::RedrawPlot() {
 void LineScan::show_outline() {
   double x0 = 33, y0 = 33;
   wafobj.FlatNotchShow(&FNLabel(line_mode() ? 1 : 0), line_mode() ? Picture1 : FNPic, x0, y0, 20, 0, 90);
-  FNLabel(0).Caption = "Angle :";
+  FNLabel(0).Caption = tr("Angle :");
 }
 
 void LineScan::redraw_angle() {

@@ -24,6 +24,7 @@ MapFrame::MapFrame(Toolkit& toolkit, Container& container) : ControlFrame(toolki
 }
 
 void MapFrame::place_children() {
+  Frplot.Caption = " Wafer ";  // a property of the host, so in no language
   PLOTA.Move(120, 240);
   frmove.Border = false;
   frmove.Height = 4290;

@@ -34,7 +34,7 @@ class MapFrame : public ControlFrame {
   SurfaceSize smallest_size() const override;
 
   // The children. A host leaves them alone; tests look at them.
-  Frame Frplot{this, " Wafer "};
+  Frame Frplot{this};
   ImageBox RePlot{&Frplot};  // below PLOTA, and seen when that is hidden
   PictureBox PLOTA{&Frplot};
   Frame frmove{this};

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "mirolen/core/palette.h"
+#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/input_checks.h"
 #include "mirolen/render/StringFormat.h"
 
@@ -22,8 +23,8 @@ void OptionForm::begin_with(wafer& shown) {
 
 void OptionForm::tell_ranges() {
   for (const NumberCheck& check : checks())
-    check.field.ToolTipText = std::string(check.unit) + ", more than " + StringFormat::plain_text(check.low) +
-                              " and less than " + StringFormat::plain_text(check.high);
+    check.field.ToolTipText = check.unit + tr(", more than ") + StringFormat::plain_text(check.low) +
+                              tr(" and less than ") + StringFormat::plain_text(check.high);
 }
 
 double OptionForm::limit(double part) const {
@@ -40,7 +41,7 @@ bool OptionForm::is_good() {
 }
 
 void OptionForm::input_error(const std::string& text) {
-  toolkit().message_box(text, "Input Error", MessageIcon::none);
+  toolkit().message_box(text, tr("Input Error"), MessageIcon::none);
 }
 
 void OptionForm::answer_with(Button& ok, Button& cancel) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/core/wafer.h"
 #include "mirolen/dialogs/Rows.h"
 #include "mirolen/dialogs/input_fields.h"
@@ -23,9 +24,9 @@ class OptionForm : public Form {
   /// What OK asks of a field: a number strictly between two limits.
   struct NumberCheck {
     NumberField& field;
-    const char* label;
+    std::string label;
     double low, high;
-    const char* unit;
+    std::string unit;
   };
   /// A choice of site marks: hide, show.
   using Marks = ControlArray<OptionButton, 0, 2>;
@@ -55,7 +56,7 @@ class OptionForm : public Form {
   static void name(const Options& options, std::initializer_list<OptionName> names) {
     int i = Options::LBound();
     for (const OptionName& told : names) {
-      options(i).Caption = told.caption;
+      options(i).Caption = tr(told.caption);
       options(i++).AccessKey = told.key;
     }
   }

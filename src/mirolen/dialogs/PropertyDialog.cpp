@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/WaferInfoProp.h"
 #include "mirolen/dialogs/plan_pages.h"
 #include "mirolen/dialogs/view_pages.h"
@@ -25,16 +26,16 @@ constexpr double tab_width = 1320, button_width = 960, button_height = 375;
 const std::vector<PageKind>& page_kinds() {
   static const std::vector<PageKind> kinds{
       {"WaferInfoProp",
-       "Wafer",
+       translatable("Wafer"),
        {"LineScan", "Plot2D", "Plot2DS", "Plot2DC", "Plot2DN", "Plot2DB", "Plot3D", "Plot3DS", "Histogram"},
        make<WaferInfoProp>},
-      {"LineScanAngleProp", "Angle", {"LineScan"}, make<LineScanAngleProp>},
-      {"Plot2DProp", "Plot", {"Plot2D"}, make<Plot2DProp>},
-      {"Plot2DSProp", "Plot", {"Plot2DS"}, make<Plot2DSProp>},
-      {"Plot2DCProp", "Plot", {"Plot2DC"}, make<Plot2DCProp>},
-      {"Plot3DProp", "Plot", {"Plot3D"}, make<Plot3DProp>},
-      {"Plot3DSProp", "Plot", {"Plot3DS"}, make<Plot3DSProp>},
-      {"HistogrammProp", "Plot", {"Histogram"}, make<HistogrammProp>}};
+      {"LineScanAngleProp", translatable("Angle"), {"LineScan"}, make<LineScanAngleProp>},
+      {"Plot2DProp", translatable("Plot"), {"Plot2D"}, make<Plot2DProp>},
+      {"Plot2DSProp", translatable("Plot"), {"Plot2DS"}, make<Plot2DSProp>},
+      {"Plot2DCProp", translatable("Plot"), {"Plot2DC"}, make<Plot2DCProp>},
+      {"Plot3DProp", translatable("Plot"), {"Plot3D"}, make<Plot3DProp>},
+      {"Plot3DSProp", translatable("Plot"), {"Plot3DS"}, make<Plot3DSProp>},
+      {"HistogrammProp", translatable("Plot"), {"Histogram"}, make<HistogrammProp>}};
   return kinds;
 }
 
@@ -49,12 +50,7 @@ std::vector<const PageKind*> pages_for(const PropertyPage::Selection& selected) 
 }
 
 PropertyDialog::PropertyDialog(Toolkit& toolkit, const PropertyPage::Selection& selected)
-    : Form(toolkit, "Property Pages"),
-      selected_(selected),
-      shown_(make_pages()),
-      OKbtn(this, "OK"),
-      cancel(this, "Cancel"),
-      apply(this, "Apply") {
+    : Form(toolkit, "Property Pages"), selected_(selected), shown_(make_pages()) {
   apply.AccessKey = 'y';
   OKbtn.OnClick = [this] {
     if (apply_all()) Hide();
@@ -76,9 +72,10 @@ PropertyDialog::PropertyDialog(Toolkit& toolkit, const PropertyPage::Selection& 
 
 std::vector<PropertyDialog::Shown> PropertyDialog::make_pages() {
   std::vector<Shown> shown;
-  for (const PageKind* kind : pages_for(selected_))
+  for (const PageKind* kind : pages_for(selected_)) {
     shown.push_back({std::make_unique<OptionButton>(&tabs_, kind->tab), kind->make(this)});
-  for (const Shown& each : shown) each.tab->AccessKey = each.tab->Caption.get().front();
+    shown.back().tab->AccessKey = *kind->tab;
+  }
   return shown;
 }
 

@@ -52,7 +52,9 @@ class PropertyDialog : public Form {
   const std::vector<Shown> shown_;
 
  public:
-  Button OKbtn, cancel, apply;
+  Button OKbtn{this, "OK"};
+  Button cancel{this, "Cancel"};
+  Button apply{this, "Apply"};
 };
 
 }  // namespace mirolen

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "mirolen/automation/ClassInfo.h"
+#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/Rows.h"
 #include "mirolen/widgets/ControlArray.h"
 
@@ -65,7 +66,7 @@ class PropertyPage : public Frame {
   template <class Options>
   static void name(const Options& options, std::initializer_list<const char*> texts) {
     int i = Options::LBound();
-    for (const char* text : texts) options(i++).Caption = text;
+    for (const char* text : texts) options(i++).Caption = tr(text);
   }
 
  private:

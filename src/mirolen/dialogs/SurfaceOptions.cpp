@@ -1,11 +1,13 @@
 #include "mirolen/dialogs/SurfaceOptions.h"
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 
 std::vector<OptionForm::NumberCheck> SurfaceOptions::checks() {
-  return {{tresx, "X Resolution ", 0.001, limit(4), "mm"},
-          {tresy, "Y Resolution ", 0.001, limit(4), "mm"},
-          {tscale, "Scale Factor ", 1e-7, 1000, "height of the surface"}};
+  return {{tresx, tr("X Resolution "), 0.001, limit(4), tr("mm")},
+          {tresy, tr("Y Resolution "), 0.001, limit(4), tr("mm")},
+          {tscale, tr("Scale Factor "), 1e-7, 1000, tr("height of the surface")}};
 }
 
 }  // namespace mirolen

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/input_checks.h"
 
 namespace mirolen {
@@ -44,7 +45,7 @@ void WaferInfoProp::show_mark() {
 bool WaferInfoProp::write_together(const automation::Object& control) {
   const double diameter = number_in(txtWaferDiameter.Text()), test = number_in(txtTestDiameter.Text());
   if (single_precision(diameter) < single_precision(test)) {
-    toolkit().message_box("Wafer diamter can not be less than test diameter", "Input Error",
+    toolkit().message_box(tr("Wafer diamter can not be less than test diameter"), tr("Input Error"),
                           MessageIcon::none);
     return false;
   }

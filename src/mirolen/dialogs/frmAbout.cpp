@@ -2,15 +2,22 @@
 
 #include <array>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/core/version.h"
 #include "mirolen/dialogs/control_icons.h"
 
 namespace mirolen {
 namespace {
 
-constexpr std::array texts{"2D Plot",          "3D Plot",   "2D Sigma Range Plot", "3D Sigma Range Plot",
-                           "2D Contour Plot ", "Line Scan", "Histogram",           "2D Value Plot",
-                           "3D Bar Plot"};
+constexpr std::array texts{translatable("2D Plot"),
+                           translatable("3D Plot"),
+                           translatable("2D Sigma Range Plot"),
+                           translatable("3D Sigma Range Plot"),
+                           translatable("2D Contour Plot "),
+                           translatable("Line Scan"),
+                           translatable("Histogram"),
+                           translatable("2D Value Plot"),
+                           translatable("3D Bar Plot")};
 
 }  // namespace
 
@@ -26,9 +33,9 @@ frmAbout::frmAbout(Toolkit& toolkit) : Form(toolkit, "Sonvera.OCX ActiveX Contro
   cmdOK.Move(4020, 1785, 1140, 375);
 
   const Version running = version();
-  lblVersion.Caption = "Version " + std::to_string(running.major) + "." + std::to_string(running.minor);
+  lblVersion.Caption = tr("Version ") + std::to_string(running.major) + "." + std::to_string(running.minor);
   lblDescription.Caption =
-      "MirolenViewWM, plots of wafer measurements.\nThe MirolenViewWM authors, MIT License.";
+      tr("MirolenViewWM, plots of wafer measurements.\nThe MirolenViewWM authors, MIT License.");
   cmdOK.OnClick = [this] { Hide(); };
   DefaultButton = &cmdOK;
   CancelButton = &cmdOK;
@@ -36,9 +43,9 @@ frmAbout::frmAbout(Toolkit& toolkit) : Form(toolkit, "Sonvera.OCX ActiveX Contro
 }
 
 void frmAbout::SetTitle(std::int16_t type) {
-  std::string title = "Sonvera.OCX Type: ";
+  std::string title = tr("Sonvera.OCX Type: ");
   if (type >= 1 && static_cast<std::size_t>(type) <= texts.size())
-    title += texts[static_cast<std::size_t>(type - 1)];
+    title += tr(texts[static_cast<std::size_t>(type - 1)]);
   draw_control_icon(picIcon, type);
   lblTitle.Caption = title;
 }

@@ -1,5 +1,7 @@
 #include "mirolen/dialogs/frmPlotHist.h"
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 
 frmPlotHist::frmPlotHist(Toolkit& toolkit) : OptionForm(toolkit) {
@@ -21,7 +23,7 @@ void frmPlotHist::SetValues(wafer& wafer, double resolution, Color back) {
 }
 
 std::vector<OptionForm::NumberCheck> frmPlotHist::checks() {
-  return {{tresx, "Resolution ", 1, 1000, "classes"}};
+  return {{tresx, tr("Resolution "), 1, 1000, tr("classes")}};
 }
 
 }  // namespace mirolen

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/input_checks.h"
 #include "mirolen/render/StringFormat.h"
 
@@ -41,7 +42,7 @@ frmPlotOpt1D::PointFields& frmPlotOpt1D::point(int i) {
 }
 
 void frmPlotOpt1D::watch(TextField& field, double& stored, int i) {
-  field.ToolTipText = "mm, within the test diameter";
+  field.ToolTipText = tr("mm, within the test diameter");
   field.OnLeave = [this, &field, &stored, i] { return leave(field, stored, i); };
 }
 
@@ -120,7 +121,7 @@ void frmPlotOpt1D::enable_fields() {
 bool frmPlotOpt1D::leave(TextField& field, double& stored, int i) {
   const std::string before = StringFormat::plain_text(stored);
   if (field.Text() != before && !IsPlainDecimal(field.Text(), true)) {
-    input_error("Enter a numeric experssion");
+    input_error(tr("Enter a numeric experssion"));
     field.Text(before);
     return false;
   }
@@ -128,7 +129,7 @@ bool frmPlotOpt1D::leave(TextField& field, double& stored, int i) {
   const double x = number_of(resx(i), line_.x[at]), y = number_of(resy(i), line_.y[at]);
   const double radius = wafer_ ? wafer_->test_diam / 2 : 0;
   if (x * x + y * y > radius * radius) {
-    input_error("Testdiameter exeded");
+    input_error(tr("Testdiameter exeded"));
     resx(i).Text("0");
     return false;
   }
@@ -153,7 +154,7 @@ bool frmPlotOpt1D::is_good() {
   if (!optline(1).Value()) return true;
   if (!leave_all()) return false;
   const bool identical = line_.x[0] == line_.x[1] && line_.y[0] == line_.y[1];
-  if (identical) input_error("Start point and end point are identical. This is not allowed.");
+  if (identical) input_error(tr("Start point and end point are identical. This is not allowed."));
   return !identical;
 }
 

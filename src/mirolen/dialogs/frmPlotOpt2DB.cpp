@@ -1,11 +1,13 @@
 #include "mirolen/dialogs/frmPlotOpt2DB.h"
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 
 frmPlotOpt2DB::frmPlotOpt2DB(Toolkit& toolkit) : ViewOptions(toolkit, "3D Bar Plot") {
-  lblresx.Caption = "Bar width:";
+  lblresx.Caption = tr("Bar width:");
   lblresx.AccessKey = 'w';
-  lblresy.Caption = "Bar depth:";
+  lblresy.Caption = tr("Bar depth:");
   lblresy.AccessKey = 'd';
   place_plot_group();
   place_all(OKbtn, cancel);
@@ -13,9 +15,9 @@ frmPlotOpt2DB::frmPlotOpt2DB(Toolkit& toolkit) : ViewOptions(toolkit, "3D Bar Pl
 }
 
 std::vector<OptionForm::NumberCheck> frmPlotOpt2DB::checks() {
-  return {{tresx, "Bar width ", 0.001, limit(2), "mm"},
-          {tresy, "Bar depth ", 0.001, limit(2), "mm"},
-          {tscale, "Scale factor ", 1e-7, 1000, "mm a unit of the value"}};
+  return {{tresx, tr("Bar width "), 0.001, limit(2), tr("mm")},
+          {tresy, tr("Bar depth "), 0.001, limit(2), tr("mm")},
+          {tscale, tr("Scale factor "), 1e-7, 1000, tr("mm a unit of the value")}};
 }
 
 }  // namespace mirolen

@@ -1,5 +1,7 @@
 #include "mirolen/dialogs/frmPlotOpt2DC.h"
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 
 frmPlotOpt2DC::frmPlotOpt2DC(Toolkit& toolkit) : OptionForm(toolkit) {
@@ -43,7 +45,7 @@ void frmPlotOpt2DC::SetValues(wafer& wafer, double dist, std::int16_t reso, std:
 }
 
 std::vector<OptionForm::NumberCheck> frmPlotOpt2DC::checks() {
-  return {{tdist, "Interval ", 0.009, 1000, "unit of the interval"}};
+  return {{tdist, tr("Interval "), 0.009, 1000, tr("unit of the interval")}};
 }
 
 }  // namespace mirolen

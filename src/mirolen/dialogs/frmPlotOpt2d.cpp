@@ -1,5 +1,7 @@
 #include "mirolen/dialogs/frmPlotOpt2d.h"
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 
 frmPlotOpt2d::frmPlotOpt2d(Toolkit& toolkit) : OptionForm(toolkit) {
@@ -24,7 +26,7 @@ void frmPlotOpt2d::SetValues(wafer& wafer, double resolution, bool mark_sites, C
 }
 
 std::vector<OptionForm::NumberCheck> frmPlotOpt2d::checks() {
-  return {{tresx, "Resolution ", 0.01, limit(4), "mm"}};
+  return {{tresx, tr("Resolution "), 0.01, limit(4), tr("mm")}};
 }
 
 }  // namespace mirolen

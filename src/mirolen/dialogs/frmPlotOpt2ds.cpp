@@ -1,5 +1,7 @@
 #include "mirolen/dialogs/frmPlotOpt2ds.h"
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 
 frmPlotOpt2ds::frmPlotOpt2ds(Toolkit& toolkit) : OptionForm(toolkit) {
@@ -28,8 +30,8 @@ void frmPlotOpt2ds::SetValues(wafer& wafer, double resolution, bool mark_sites, 
 }
 
 std::vector<OptionForm::NumberCheck> frmPlotOpt2ds::checks() {
-  return {{tresx, "Resolution ", 0.001, limit(4), "mm"},
-          {SSigma, "Sigma Range ", 0.001, 1000, "standard deviations"}};
+  return {{tresx, tr("Resolution "), 0.001, limit(4), tr("mm")},
+          {SSigma, tr("Sigma Range "), 0.001, 1000, tr("standard deviations")}};
 }
 
 }  // namespace mirolen

@@ -1,5 +1,7 @@
 #include "mirolen/dialogs/frmPlotOpt3ds.h"
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 
 frmPlotOpt3ds::frmPlotOpt3ds(Toolkit& toolkit) : SurfaceOptions(toolkit, "3D Sigma Range Plot") {
@@ -21,7 +23,7 @@ void frmPlotOpt3ds::SetValues(wafer& wafer, double resx, double resy, double sca
 
 std::vector<OptionForm::NumberCheck> frmPlotOpt3ds::checks() {
   std::vector<NumberCheck> all = SurfaceOptions::checks();
-  all.push_back({SSigma, "Sigma Range ", 0.001, 1000, "standard deviations"});
+  all.push_back({SSigma, tr("Sigma Range "), 0.001, 1000, tr("standard deviations")});
   return all;
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "mirolen/core/DecimalSeparator.h"
+#include "mirolen/core/translation.h"
 
 namespace mirolen {
 namespace {
@@ -80,14 +81,14 @@ bool IsPlainDecimal(std::string_view text, bool minus_allowed) {
 
 bool CheckNumberField(std::string_view text, double low, double high, std::string& message,
                       std::string_view label) {
-  const auto refuse = [&](const char* reason) {
+  const auto refuse = [&](const std::string& reason) {
     message.append(label).append(reason).append("\n");
     return false;
   };
-  if (text.empty()) return refuse("can not be empty");
+  if (text.empty()) return refuse(tr("can not be empty"));
   const std::optional<double> value = numeric(text);
-  if (!value) return refuse("must be numeric");
-  if (!(*value > low && *value < high)) return refuse("not valid");
+  if (!value) return refuse(tr("must be numeric"));
+  if (!(*value > low && *value < high)) return refuse(tr("not valid"));
   return true;
 }
 

@@ -1,5 +1,6 @@
 #include "mirolen/dialogs/input_fields.h"
 
+#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/input_checks.h"
 #include "mirolen/render/StringFormat.h"
 
@@ -27,7 +28,7 @@ void NumberField::text_changed() {
 
 AngleField::AngleField(Widget* container, std::string otherwise)
     : TextField(container), last_good_(std::move(otherwise)) {
-  ToolTipText = "degrees, 0 to 360";
+  ToolTipText = tr("degrees, 0 to 360");
   OnChange = [this] { text_changed(); };
 }
 

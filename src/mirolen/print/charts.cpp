@@ -1,6 +1,7 @@
 #include <array>
 
 #include "mirolen/core/palette.h"
+#include "mirolen/core/translation.h"
 #include "mirolen/print/PrintWafer.h"
 #include "mirolen/print/layout.h"
 #include "mirolen/print/target.h"
@@ -56,7 +57,7 @@ void PrintWafer::Print_1DPlot(wafer& wafer, std::int16_t angle, std::int16_t Plo
   DrawCutLine(wafer, angle, PlotType, RotationPointX, RotationPointY, LineStartPointX, LineStartPointY,
               LineEndPointX, LineEndPointY, xb + 138, yb + 810);
   if (PlotType == by_angle) {
-    std::string text = "Angle: " + StringFormat::plain_text(angle) + " °";
+    std::string text = tr("Angle: ") + StringFormat::plain_text(angle) + " °";
     DrawLeftText(text, xb, yb, 935, 0);
   }
   target.DrawWidth(print::line_width(target, 2, 1));

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/print/PrintWafer.h"
 #include "mirolen/print/layout.h"
 #include "mirolen/print/target.h"
@@ -12,7 +13,7 @@ namespace {
 constexpr double text_width = 1200;
 
 std::string interval_text(double Interval, const std::string& suffix) {
-  return "Interval: " + StringFormat::plain_text(Interval) + suffix;
+  return tr("Interval: ") + StringFormat::plain_text(Interval) + suffix;
 }
 
 std::string suffix_of(bool percent, const std::string& unit) { return percent ? " %" : " " + unit; }

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "mirolen/core/palette.h"
+#include "mirolen/core/translation.h"
 #include "mirolen/print/PrintWafer.h"
 #include "mirolen/print/layout.h"
 #include "mirolen/print/target.h"
@@ -59,7 +60,7 @@ void PrintWafer::DrawFlatNotchSymbol(double& x, double& y, double style, double&
 }
 
 void PrintWafer::DrawFlatNotchBox(double left, double top, double style, double rot, double incl) {
-  DrawFrame(style == print::notch ? "Notch" : "Flat", left, top, 975, 1095);
+  DrawFrame(style == print::notch ? tr("Notch") : tr("Flat"), left, top, 975, 1095);
   double x = left + 488, y = top + 800, r = 350;
   DrawFlatNotchSymbol(x, y, style, r, rot, incl);
 }

@@ -1,3 +1,4 @@
+#include "mirolen/core/translation.h"
 #include "mirolen/print/PrintWafer.h"
 #include "mirolen/print/report_rows.h"
 #include "mirolen/print/target.h"
@@ -9,7 +10,7 @@ constexpr double block_width = 2775, text_width = 975;
 constexpr double label_column = 120, value_column = 1080;
 constexpr double legend_height = 2895;
 
-void print_block(PrintWafer& page, const char* caption, double left, double top, double height,
+void print_block(PrintWafer& page, const std::string& caption, double left, double top, double height,
                  const print::ReportRows& rows) {
   page.DrawFrame(caption, left, top, block_width, height);
   print::write_rows(
@@ -20,22 +21,22 @@ void print_block(PrintWafer& page, const char* caption, double left, double top,
 }  // namespace
 
 void PrintWafer::DrawWaferRemarks(const wafer& wafer, double left, double top) {
-  print_block(*this, "Wafer Remarks ", left, top, 1875, print::remarks_rows(wafer));
+  print_block(*this, tr("Wafer Remarks "), left, top, 1875, print::remarks_rows(wafer));
 }
 
 void PrintWafer::DrawWaferSize(const wafer& wafer, double left, double top) {
   const auto diameter = [this](double value) { return FormatNonZero(value, "00.00"); };
-  print_block(*this, "Size ", left, top, 1155, print::size_rows(wafer, diameter));
+  print_block(*this, tr("Size "), left, top, 1155, print::size_rows(wafer, diameter));
 }
 
 void PrintWafer::DrawWaferStatistics(const wafer& wafer, double left, double top) {
   const auto number = [this](double value) { return FormatLbl(value); };
-  print_block(*this, "Statistics ", left, top, 2115, print::statistics_rows(wafer, number));
+  print_block(*this, tr("Statistics "), left, top, 2115, print::statistics_rows(wafer, number));
 }
 
 void PrintWafer::DrawColoredLegend(const wafer& wafer, double left, double top, bool framed) {
   if (framed) {
-    DrawFrame("Legend ", left, top, block_width, legend_height);
+    DrawFrame(tr("Legend "), left, top, block_width, legend_height);
     left += 120;
     top += 500;
   }
@@ -44,7 +45,7 @@ void PrintWafer::DrawColoredLegend(const wafer& wafer, double left, double top, 
 
 void PrintWafer::DrawSigmaLegend(const wafer& wafer, double& left, double& top, double sigma, bool framed) {
   if (!framed) return DrawSigmaScale(left, top, sigma, wafer);
-  DrawFrame("Legend ", left, top, block_width, legend_height);
+  DrawFrame(tr("Legend "), left, top, block_width, legend_height);
   double inner_left = left + 210, inner_top = top + 500;
   DrawSigmaScale(inner_left, inner_top, sigma, wafer);
 }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/print/layout.h"
 #include "mirolen/print/text_writers.h"
 #include "mirolen/render/StringFormat.h"
@@ -36,31 +37,31 @@ std::string first_15(const std::string& text) {
 }
 
 ReportRows statistics_rows(const wafer& wafer, const NumberText& number) {
-  return {{360, "Mean:", number(wafer.mean)},
-          {600, "Maximum:", number(wafer.maxi)},
-          {840, "Minimum:", number(wafer.mini)},
-          {1080, "Std. Dev:", number(wafer.StdDev)},
+  return {{360, tr("Mean:"), number(wafer.mean)},
+          {600, tr("Maximum:"), number(wafer.maxi)},
+          {840, tr("Minimum:"), number(wafer.mini)},
+          {1080, tr("Std. Dev:"), number(wafer.StdDev)},
           {1320, std::nullopt, relative_deviation(wafer)},
-          {1560, "Range:", number(checked(wafer.maxi - wafer.mini))},
-          {1800, "Hi/Lo Var:", percent(hi_lo(wafer))},
-          {2040, "Unit:", first_15(wafer.Meas_unit)}};
+          {1560, tr("Range:"), number(checked(wafer.maxi - wafer.mini))},
+          {1800, tr("Hi/Lo Var:"), percent(hi_lo(wafer))},
+          {2040, tr("Unit:"), first_15(wafer.Meas_unit)}};
 }
 
 ReportRows size_rows(const wafer& wafer, const NumberText& diameter) {
-  return {{360, "Wafer Diam:", diameter(wafer.WafDiam) + " mm"},
-          {600, "Test Diam:", diameter(wafer.test_diam) + " mm"},
-          {840, "No. Sites:", StringFormat::plain_text(wafer.GetNop())},
-          {1080, "Style:", wafer.flat_ratio == notch ? "Notch" : "Flat"}};
+  return {{360, tr("Wafer Diam:"), diameter(wafer.WafDiam) + " mm"},
+          {600, tr("Test Diam:"), diameter(wafer.test_diam) + " mm"},
+          {840, tr("No. Sites:"), StringFormat::plain_text(wafer.GetNop())},
+          {1080, tr("Style:"), wafer.flat_ratio == notch ? tr("Notch") : tr("Flat")}};
 }
 
 ReportRows remarks_rows(const wafer& wafer) {
-  return {{360, "Operator ID:", first_15(wafer.Operator)},
-          {600, "FAB Name:", first_15(wafer.FAB)},
-          {840, "Equip Info:", first_15(wafer.equip)},
-          {1080, "Wafer ID:", first_15(wafer.wafer)},
-          {1320, "Lot:", first_15(wafer.lot)},
-          {1560, "Meas. Equip:", first_15(wafer.meq)},
-          {1800, "Special:", first_15(wafer.Special)}};
+  return {{360, tr("Operator ID:"), first_15(wafer.Operator)},
+          {600, tr("FAB Name:"), first_15(wafer.FAB)},
+          {840, tr("Equip Info:"), first_15(wafer.equip)},
+          {1080, tr("Wafer ID:"), first_15(wafer.wafer)},
+          {1320, tr("Lot:"), first_15(wafer.lot)},
+          {1560, tr("Meas. Equip:"), first_15(wafer.meq)},
+          {1800, tr("Special:"), first_15(wafer.Special)}};
 }
 
 }  // namespace mirolen::print

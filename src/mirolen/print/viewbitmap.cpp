@@ -1,6 +1,7 @@
 #include "mirolen/print/viewbitmap.h"
 
 #include "mirolen/core/palette.h"
+#include "mirolen/core/translation.h"
 #include "mirolen/core/version.h"
 #include "mirolen/print/frame.h"
 #include "mirolen/print/text_writers.h"
@@ -79,7 +80,7 @@ void viewbitmap::write_footer(double height, std::int16_t width) {
   flip_bold(picture(), 10);
 }
 
-void viewbitmap::write_block(const char* title, std::int16_t left, std::int16_t top,
+void viewbitmap::write_block(const std::string& title, std::int16_t left, std::int16_t top,
                              const print::ReportRows& rows) {
   std::string text = title;
   flip_underline(picture());
@@ -95,18 +96,18 @@ void viewbitmap::DrawStatisticsBlock(std::int16_t left, std::int16_t top) {
     std::string format = "0.00";
     return ViewFormatNonZero(value, format);
   };
-  write_block("Wafer Statistics", left, top, print::statistics_rows(data(), number));
+  write_block(tr("Wafer Statistics"), left, top, print::statistics_rows(data(), number));
 }
 
 void viewbitmap::DrawSizeBlock(std::int16_t left, std::int16_t top) {
   const auto diameter = [](double value) { return StringFormat::format_number(value, "00.00"); };
-  write_block("Wafer Size", left, top, print::size_rows(data(), diameter));
+  write_block(tr("Wafer Size"), left, top, print::size_rows(data(), diameter));
 }
 
 void viewbitmap::DrawRemarksBlock(std::int16_t left, std::int16_t top) {
   print::ReportRows rows = print::remarks_rows(data());
-  rows.push_back({2040, "Filename:", print::first_15(data().filename)});
-  write_block("Wafer Remarks ", left, top, rows);
+  rows.push_back({2040, tr("Filename:"), print::first_15(data().filename)});
+  write_block(tr("Wafer Remarks "), left, top, rows);
 }
 
 std::string viewbitmap::ViewFormatNonZero(double value, std::string& format) {

@@ -43,7 +43,8 @@ class viewbitmap {
  private:
   PictureBox& picture() const;
   const wafer& data() const;
-  void write_block(const char* title, std::int16_t left, std::int16_t top, const print::ReportRows& rows);
+  void write_block(const std::string& title, std::int16_t left, std::int16_t top,
+                   const print::ReportRows& rows);
   void write_footer(double height, std::int16_t width);
 
   PictureBox* picture_ = nullptr;

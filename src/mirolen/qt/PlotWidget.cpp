@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/PropertyDialog.h"
 #include "mirolen/qt/ChildView.h"
 #include "mirolen/qt/Picture.h"
@@ -233,11 +234,12 @@ void PlotWidget::contextMenuEvent(QContextMenuEvent* event) {
   menu->setAttribute(Qt::WA_DeleteOnClose);
   // What they open must not keep the menu waiting.
   const auto offer = [&](const char* text, void (PlotWidget::*open)()) {
-    QObject::connect(menu->addAction(text), &QAction::triggered, this, open, Qt::QueuedConnection);
+    QObject::connect(menu->addAction(text_of(mirolen::tr(text))), &QAction::triggered, this, open,
+                     Qt::QueuedConnection);
   };
-  offer("Properties...", &PlotWidget::open_properties);
-  if (has_plot_options()) offer("Plot- Options...", &PlotWidget::open_plot_options);
-  offer("About...", &PlotWidget::open_about);
+  offer(translatable("Properties..."), &PlotWidget::open_properties);
+  if (has_plot_options()) offer(translatable("Plot- Options..."), &PlotWidget::open_plot_options);
+  offer(translatable("About..."), &PlotWidget::open_about);
   menu->popup(event->globalPos());
 }
 

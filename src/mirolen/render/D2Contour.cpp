@@ -1,6 +1,7 @@
 #include <array>
 #include <cmath>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/render/ColorScale.h"
 #include "mirolen/render/ContourMesh.h"
 #include "mirolen/render/PlanPainter.h"
@@ -128,7 +129,7 @@ void ContourPainter::refuse() {
   const double right = area_.left + area_.width, bottom = area_.top + area_.height;
   canvas_.Line(line_flags, area_.left, area_.top, right, bottom, QBColor(4));
   canvas_.Line(line_flags, area_.left, bottom, right, area_.top, QBColor(4));
-  show_message("Difference of Mean, Maximum, and Minimum too small", "No Contour Plot possible");
+  show_message(tr("Difference of Mean, Maximum, and Minimum too small"), tr("No Contour Plot possible"));
 }
 
 void ContourPainter::draw_level(double level, double three_color) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/core/wafer.h"
 #include "mirolen/render/PlotCanvas.h"
 #include "mirolen/render/Screen.h"
@@ -81,7 +82,7 @@ class HistogramPainter {
   void line(PlotCanvas& canvas, double x1, double y1, double x2, double y2, Color color) {
     resume([&] { canvas.Line(line_flags, x1, y1, x2, y2, color); });
   }
-  static std::string sigma_label(int k) { return k == 0 ? "Mean" : std::to_string(k) + "s"; }
+  static std::string sigma_label(int k) { return k == 0 ? tr("Mean") : std::to_string(k) + "s"; }
 
   wafer& wafer_;
   HistogramRequest r_;

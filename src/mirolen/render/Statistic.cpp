@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/render/ControlLimits.h"
 #include "mirolen/render/HistogramPainter.h"
 #include "mirolen/render/Screen.h"
@@ -32,7 +33,7 @@ class StandingHistogram : public HistogramPainter {
   void draw_limits() override;
 
   void draw_limit_pair(double low, double high);
-  void draw_limit(double limit, const char* name);
+  void draw_limit(double limit, const std::string& name);
   void write_below(double px, const std::string& text);
   void label(double centre, double top, double value);
   std::string text_of(double value) const;
@@ -180,11 +181,11 @@ void StandingHistogram::draw_limits() {
 void StandingHistogram::draw_limit_pair(double low, double high) {
   resume([&] { histPic_.ForeColor(dark_blue); });
   resume([&] { Plot_.DrawWidth(on_printer() ? 6 : 4); });
-  draw_limit(low, "LCL");
-  draw_limit(high, "UCL");
+  draw_limit(low, tr("LCL"));
+  draw_limit(high, tr("UCL"));
 }
 
-void StandingHistogram::draw_limit(double limit, const char* name) {
+void StandingHistogram::draw_limit(double limit, const std::string& name) {
   double px = 0;
   resume([&] { px = along_classes(limit); });
   line(Plot_, r_.left + px, r_.top, r_.left + px, r_.hoehe, QBColor(1));

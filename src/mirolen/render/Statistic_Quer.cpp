@@ -1,6 +1,7 @@
 #include <cmath>
 #include <utility>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/render/ControlLimits.h"
 #include "mirolen/render/HistogramPainter.h"
 #include "mirolen/render/Screen.h"
@@ -43,7 +44,7 @@ class LyingHistogram : public HistogramPainter {
   void draw_axis_labels() override;
   void draw_limits() override;
 
-  void draw_limit(double limit, const char* name);
+  void draw_limit(double limit, const std::string& name);
   void write_beside(double py, const std::string& text, const char* measured);
   double clamped(double x) const;
   double x_of(double fraction) const {
@@ -163,11 +164,11 @@ void LyingHistogram::draw_limits() {
   const ControlLimits& limits = control_limits();
   if (!limits.ShowCL) return;
   resume([&] { histPic_.ForeColor(blue); });
-  draw_limit(limits.ClLow, "LCL");
-  draw_limit(limits.ClHigh, "UCL");
+  draw_limit(limits.ClLow, tr("LCL"));
+  draw_limit(limits.ClHigh, tr("UCL"));
 }
 
-void LyingHistogram::draw_limit(double limit, const char* name) {
+void LyingHistogram::draw_limit(double limit, const std::string& name) {
   double py = 0;
   resume([&] { py = along_classes(limit); });
   line(Plot_, r_.left + r_.hoehe, y_of(py), r_.left, y_of(py), dark_blue);

@@ -1,6 +1,7 @@
 #include <array>
 #include <cmath>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/core/wafer.h"
 #include "mirolen/render/Companions.h"
 #include "mirolen/render/InclinedCircle.h"
@@ -57,12 +58,12 @@ void wafer::FlatNotchShow(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, 
   FNPic.Circle(x0, y0, R, {}, {}, {}, k);
 
   if (flat_ratio == notch) {
-    if (FNLabel) FNLabel->caption("Notch");
+    if (FNLabel) FNLabel->caption(tr("Notch"));
     const SurfacePoint A = P(phi + 10, R), B = P(phi - 10, R), C = P(phi, 0.8 * R), D = P(phi, 1.05 * R);
     cut_out(FNPic, std::array{A, C, B, D, A});
     draw_line(FNPic, A, C, QBColor(12));
   } else {
-    if (FNLabel) FNLabel->caption("Flat");
+    if (FNLabel) FNLabel->caption(tr("Flat"));
     const double R2 = R + R / 3;
     const SurfacePoint A = P(phi + 35, R), B = P(phi - 35, R), C = P(phi + 35, R2), D = P(phi - 35, R2);
     cut_out(FNPic, std::array{A, B, D, C});
@@ -84,7 +85,7 @@ void wafer::FlatNotchShow1(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0,
   FNPic.Cls();
   FNPic.DrawWidth(2);
   if (flat_ratio == notch) {
-    if (FNLabel) FNLabel->caption("Notch");
+    if (FNLabel) FNLabel->caption(tr("Notch"));
     open_arc(10);
     const SurfacePoint A = P(phi + 11, halb_a), B = P(phi - 11, halb_a), C = P(phi, 0.8 * halb_a);
     draw_line(FNPic, A, C);
@@ -92,7 +93,7 @@ void wafer::FlatNotchShow1(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0,
     fill();
     draw_line(FNPic, A, C, QBColor(12));
   } else {
-    if (FNLabel) FNLabel->caption("Flat");
+    if (FNLabel) FNLabel->caption(tr("Flat"));
     open_arc(34);
     const SurfacePoint A = P(phi + 35, halb_a), B = P(phi - 35, halb_a);
     draw_line(FNPic, A, B);
