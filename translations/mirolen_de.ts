@@ -1,0 +1,601 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>mirolen</name>
+    <message>
+        <source> and less than </source>
+        <translation> und weniger als </translation>
+    </message>
+    <message>
+        <source>, more than </source>
+        <translation>, mehr als </translation>
+    </message>
+    <message>
+        <source>2D Contour Plot</source>
+        <translation>2D-Konturplot</translation>
+    </message>
+    <message>
+        <source>2D Contour Plot </source>
+        <translation>2D-Konturplot </translation>
+    </message>
+    <message>
+        <source>2D Plot</source>
+        <translation>2D-Plot</translation>
+    </message>
+    <message>
+        <source>2D Sigma Range Plot</source>
+        <translation>2D-Sigmaplot</translation>
+    </message>
+    <message>
+        <source>2D Value Plot</source>
+        <translation>2D-Werteplot</translation>
+    </message>
+    <message>
+        <source>3D Bar Plot</source>
+        <translation>3D-Balkenplot</translation>
+    </message>
+    <message>
+        <source>3D Plot</source>
+        <translation>3D-Plot</translation>
+    </message>
+    <message>
+        <source>3D Sigma Range Plot</source>
+        <translation>3D-Sigmaplot</translation>
+    </message>
+    <message>
+        <source>About...</source>
+        <translation>Info...</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Angle :</source>
+        <translation>Winkel:</translation>
+    </message>
+    <message>
+        <source>Angle value must be between 0 and 359</source>
+        <translation>Der Winkel muss zwischen 0 und 359 liegen</translation>
+    </message>
+    <message>
+        <source>Angle: </source>
+        <translation>Winkel: </translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Bar depth </source>
+        <translation>Die Balkentiefe </translation>
+    </message>
+    <message>
+        <source>Bar depth:</source>
+        <translation>Balkentiefe:</translation>
+    </message>
+    <message>
+        <source>Bar width </source>
+        <translation>Die Balkenbreite </translation>
+    </message>
+    <message>
+        <source>Bar width:</source>
+        <translation>Balkenbreite:</translation>
+    </message>
+    <message>
+        <source>Base Line:</source>
+        <translation>Grundlinie:</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarz-weiß</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>By angle</source>
+        <translation>Nach Winkel</translation>
+    </message>
+    <message>
+        <source>By points</source>
+        <translation>Nach Punkten</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Colors:</source>
+        <translation>Farben:</translation>
+    </message>
+    <message>
+        <source>Converted</source>
+        <translation>Umgerechnet</translation>
+    </message>
+    <message>
+        <source>Define Plot Options</source>
+        <translation>Plotoptionen festlegen</translation>
+    </message>
+    <message>
+        <source>Difference of Mean, Maximum, and Minimum too small</source>
+        <translation>Mittelwert, Maximum und Minimum liegen zu nahe beieinander</translation>
+    </message>
+    <message>
+        <source>End point:</source>
+        <translation>Ende:</translation>
+    </message>
+    <message>
+        <source>Enter a numeric experssion</source>
+        <translation>Bitte eine Zahl eingeben</translation>
+    </message>
+    <message>
+        <source>Equip Info:</source>
+        <translation>Anlage:</translation>
+    </message>
+    <message>
+        <source>Exact</source>
+        <translation>Genau</translation>
+    </message>
+    <message>
+        <source>FAB Name:</source>
+        <translation>Werk:</translation>
+    </message>
+    <message>
+        <source>Filename:</source>
+        <translation>Datei:</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Abflachung</translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation>Gitter</translation>
+    </message>
+    <message>
+        <source>Hi/Lo Var:</source>
+        <translation>Max/Min:</translation>
+    </message>
+    <message>
+        <source>Hidden Wire Frame</source>
+        <translation>Verdecktes Drahtgitter</translation>
+    </message>
+    <message>
+        <source>Hidden wire frame</source>
+        <translation>Verdecktes Drahtgitter</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Hide Plot Legend:</source>
+        <translation>Legende ausblenden</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+    <message>
+        <source>Inclination:</source>
+        <translation>Neigung:</translation>
+    </message>
+    <message>
+        <source>Input Error</source>
+        <translation>Eingabefehler</translation>
+    </message>
+    <message>
+        <source>Interval </source>
+        <translation>Das Intervall </translation>
+    </message>
+    <message>
+        <source>Interval :</source>
+        <translation>Intervall:</translation>
+    </message>
+    <message>
+        <source>Interval : </source>
+        <translation>Intervall: </translation>
+    </message>
+    <message>
+        <source>Interval in percent</source>
+        <translation>Intervall in Prozent</translation>
+    </message>
+    <message>
+        <source>Interval: </source>
+        <translation>Intervall: </translation>
+    </message>
+    <message>
+        <source>LCL</source>
+        <translation>UEG</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Legend</source>
+        <translation>Legende</translation>
+    </message>
+    <message>
+        <source>Legend </source>
+        <translation>Legende </translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Line Scan</source>
+        <translation>Linienscan</translation>
+    </message>
+    <message>
+        <source>Lot:</source>
+        <translation>Los:</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Marked Sites:</source>
+        <translation>Messpunkte:</translation>
+    </message>
+    <message>
+        <source>Maximal possible resolution is </source>
+        <translation>Die größte mögliche Auflösung ist </translation>
+    </message>
+    <message>
+        <source>Maximum:</source>
+        <translation>Maximum:</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Mean:</source>
+        <translation>Mittelwert:</translation>
+    </message>
+    <message>
+        <source>Meas. Equip:</source>
+        <translation>Messgerät:</translation>
+    </message>
+    <message>
+        <source>Minimum:</source>
+        <translation>Minimum:</translation>
+    </message>
+    <message>
+        <source>MirolenViewWM, plots of wafer measurements.
+The MirolenViewWM authors, MIT License.</source>
+        <translation>MirolenViewWM, Plots von Wafermessungen.
+Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
+    </message>
+    <message>
+        <source>No Contour Plot possible</source>
+        <translation>Kein Konturplot möglich</translation>
+    </message>
+    <message>
+        <source>No. Sites:</source>
+        <translation>Messpunkte:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Kerbe</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Operator ID:</source>
+        <translation>Bediener:</translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation>Plot</translation>
+    </message>
+    <message>
+        <source>Plot Type:</source>
+        <translation>Plotart:</translation>
+    </message>
+    <message>
+        <source>Plot- Options</source>
+        <translation>Plotoptionen</translation>
+    </message>
+    <message>
+        <source>Plot- Options...</source>
+        <translation>Plotoptionen...</translation>
+    </message>
+    <message>
+        <source>Poly Edge</source>
+        <translation>Polygone mit Kanten</translation>
+    </message>
+    <message>
+        <source>Polygons</source>
+        <translation>Polygone</translation>
+    </message>
+    <message>
+        <source>Properties...</source>
+        <translation>Eigenschaften...</translation>
+    </message>
+    <message>
+        <source>Property Pages</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Quality:</source>
+        <translation>Qualität:</translation>
+    </message>
+    <message>
+        <source>Range :</source>
+        <translation>Spanne:</translation>
+    </message>
+    <message>
+        <source>Range:</source>
+        <translation>Spanne:</translation>
+    </message>
+    <message>
+        <source>Resolution </source>
+        <translation>Die Auflösung </translation>
+    </message>
+    <message>
+        <source>Resolution :</source>
+        <translation>Auflösung:</translation>
+    </message>
+    <message>
+        <source>Resolution : </source>
+        <translation>Auflösung: </translation>
+    </message>
+    <message>
+        <source>Resolution X:</source>
+        <translation>Auflösung X:</translation>
+    </message>
+    <message>
+        <source>Resolution Y:</source>
+        <translation>Auflösung Y:</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Rotation:</source>
+        <translation>Drehung:</translation>
+    </message>
+    <message>
+        <source>Scale Factor </source>
+        <translation>Der Maßstab </translation>
+    </message>
+    <message>
+        <source>Scale factor </source>
+        <translation>Der Maßstab </translation>
+    </message>
+    <message>
+        <source>Scale:</source>
+        <translation>Maßstab:</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Show sites</source>
+        <translation>Messpunkte anzeigen</translation>
+    </message>
+    <message>
+        <source>Sigma Range </source>
+        <translation>Der Sigmabereich </translation>
+    </message>
+    <message>
+        <source>Sigma Range : </source>
+        <translation>Sigmabereich: </translation>
+    </message>
+    <message>
+        <source>Sigma Range:</source>
+        <translation>Sigmabereich:</translation>
+    </message>
+    <message>
+        <source>Sigma range :</source>
+        <translation>Sigmabereich:</translation>
+    </message>
+    <message>
+        <source>Size </source>
+        <translation>Größe </translation>
+    </message>
+    <message>
+        <source>Sonvera.OCX ActiveX Control</source>
+        <translation>Sonvera.OCX ActiveX-Steuerelement</translation>
+    </message>
+    <message>
+        <source>Sonvera.OCX Type: </source>
+        <translation>Sonvera.OCX Typ: </translation>
+    </message>
+    <message>
+        <source>Special:</source>
+        <translation>Besonderes:</translation>
+    </message>
+    <message>
+        <source>Standard resolution to high </source>
+        <translation>Standardauflösung zu groß </translation>
+    </message>
+    <message>
+        <source>Start point and end point are identical. This is not allowed.</source>
+        <translation>Anfangspunkt und Endpunkt sind gleich. Das ist nicht zulässig.</translation>
+    </message>
+    <message>
+        <source>Start point:</source>
+        <translation>Anfang:</translation>
+    </message>
+    <message>
+        <source>Statistics </source>
+        <translation>Statistik </translation>
+    </message>
+    <message>
+        <source>Std. Dev:</source>
+        <translation>Std.-Abw.:</translation>
+    </message>
+    <message>
+        <source>Style:</source>
+        <translation>Form:</translation>
+    </message>
+    <message>
+        <source>Ten colors</source>
+        <translation>Zehn Farben</translation>
+    </message>
+    <message>
+        <source>Test Diam:</source>
+        <translation>Mess-Ø:</translation>
+    </message>
+    <message>
+        <source>Test diameter :</source>
+        <translation>Messdurchmesser:</translation>
+    </message>
+    <message>
+        <source>Testdiameter exeded</source>
+        <translation>Messdurchmesser überschritten</translation>
+    </message>
+    <message>
+        <source>Three colors</source>
+        <translation>Drei Farben</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>UCL</source>
+        <translation>OEG</translation>
+    </message>
+    <message>
+        <source>Unit:</source>
+        <translation>Einheit:</translation>
+    </message>
+    <message>
+        <source>Version </source>
+        <translation>Version </translation>
+    </message>
+    <message>
+        <source>Wafer</source>
+        <translation>Wafer</translation>
+    </message>
+    <message>
+        <source>Wafer Diam:</source>
+        <translation>Wafer-Ø:</translation>
+    </message>
+    <message>
+        <source>Wafer ID:</source>
+        <translation>Wafer-Nr.:</translation>
+    </message>
+    <message>
+        <source>Wafer Remarks </source>
+        <translation>Waferangaben </translation>
+    </message>
+    <message>
+        <source>Wafer Size</source>
+        <translation>Wafergröße</translation>
+    </message>
+    <message>
+        <source>Wafer Statistics</source>
+        <translation>Waferstatistik</translation>
+    </message>
+    <message>
+        <source>Wafer diameter :</source>
+        <translation>Waferdurchmesser:</translation>
+    </message>
+    <message>
+        <source>Wafer diamter can not be less than test diameter</source>
+        <translation>Der Waferdurchmesser darf nicht kleiner als der Messdurchmesser sein</translation>
+    </message>
+    <message>
+        <source>Wafer rotation:</source>
+        <translation>Waferdrehung:</translation>
+    </message>
+    <message>
+        <source>White background</source>
+        <translation>Weißer Hintergrund</translation>
+    </message>
+    <message>
+        <source>Wire Frame</source>
+        <translation>Drahtgitter</translation>
+    </message>
+    <message>
+        <source>Wire frame</source>
+        <translation>Drahtgitter</translation>
+    </message>
+    <message>
+        <source>X</source>
+        <translation>X</translation>
+    </message>
+    <message>
+        <source>X Resolution </source>
+        <translation>Die Auflösung in X </translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Y Resolution </source>
+        <translation>Die Auflösung in Y </translation>
+    </message>
+    <message>
+        <source>can not be empty</source>
+        <translation>darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>classes</source>
+        <translation>Klassen</translation>
+    </message>
+    <message>
+        <source>degrees, 0 to 360</source>
+        <translation>Grad, 0 bis 360</translation>
+    </message>
+    <message>
+        <source>height of the surface</source>
+        <translation>Höhe der Fläche</translation>
+    </message>
+    <message>
+        <source>mm</source>
+        <translation>mm</translation>
+    </message>
+    <message>
+        <source>mm a unit of the value</source>
+        <translation>mm je Einheit des Wertes</translation>
+    </message>
+    <message>
+        <source>mm, within the test diameter</source>
+        <translation>mm, innerhalb des Messdurchmessers</translation>
+    </message>
+    <message>
+        <source>must be numeric</source>
+        <translation>muss eine Zahl sein</translation>
+    </message>
+    <message>
+        <source>not valid</source>
+        <translation>ist ungültig</translation>
+    </message>
+    <message>
+        <source>standard deviations</source>
+        <translation>Standardabweichungen</translation>
+    </message>
+    <message>
+        <source>unit of the interval</source>
+        <translation>Einheit des Intervalls</translation>
+    </message>
+</context>
+</TS>
