@@ -165,11 +165,11 @@
     </message>
     <message>
         <source>Hidden Wire Frame</source>
-        <translation>Verdecktes Drahtgitter</translation>
+        <translation>Verdecktes Gitter</translation>
     </message>
     <message>
         <source>Hidden wire frame</source>
-        <translation>Verdecktes Drahtgitter</translation>
+        <translation>Verdecktes Gitter</translation>
     </message>
     <message>
         <source>Hide</source>
@@ -343,7 +343,7 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
     </message>
     <message>
         <source>Range :</source>
-        <translation>Spanne:</translation>
+        <translation>Bereich:</translation>
     </message>
     <message>
         <source>Range:</source>

@@ -1,4 +1,5 @@
 #include <mirolen/qt/Plot2D.h>
+#include <mirolen/qt/translations.h>
 
 #include <QApplication>
 #include <cstdio>
@@ -6,6 +7,7 @@
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
+  mirolen::qt::install_translations();
   mirolen::qt::Plot2D plot;
   plot.resize(600, 450);
   const std::vector<double> x{-50, 50, 0, 0}, y{0, 0, -50, 50}, z{1, 2, 3, 4};
