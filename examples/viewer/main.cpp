@@ -4,11 +4,13 @@
 #include "ViewerOptions.h"
 #include "ViewerWindow.h"
 #include "mirolen/core/RunTimeError.h"
+#include "mirolen/qt/translations.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
   QApplication::setOrganizationName("Mirolen");
   QApplication::setApplicationName("WaferViewer");
+  mirolen::qt::install_translations();
   try {
     const ViewerOptions options = options_in(QApplication::arguments());
     ViewerWindow window(300, 294);
