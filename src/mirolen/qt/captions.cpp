@@ -17,13 +17,13 @@ bool is_on_form(const Widget& widget) {
   return root->kind() == WidgetKind::form;
 }
 
-QFont text_font(const Widget& widget, const QWidget& view, const FontSpec& spec) {
-  if (!is_on_form(widget)) return font_of(spec, view);
+QFont text_font(const Widget& widget, const QWidget& view, const FontSpec& wanted) {
+  if (!is_on_form(widget)) return font_of(wanted, view);
   QFont font = view.window()->font();
-  if (spec.size != FontSpec{}.size)
-    font.setPointSizeF(std::max(1.0, QFontInfo(font).pointSizeF() * spec.size / FontSpec{}.size));
-  font.setBold(font.bold() || spec.bold);
-  font.setUnderline(spec.underline);
+  if (wanted.size != FontSpec{}.size)
+    font.setPointSizeF(std::max(1.0, QFontInfo(font).pointSizeF() * wanted.size / FontSpec{}.size));
+  font.setBold(font.bold() || wanted.bold);
+  font.setUnderline(wanted.underline);
   return font;
 }
 

@@ -125,16 +125,17 @@ QString shown_text(const FontSpec& font, std::string_view utf8) {
   return text;
 }
 
-QFont font_of(const FontSpec& spec, const QPaintDevice& device, double ratio) {
-  const bool stands_in = spec.Name == "MS Sans Serif" || spec.Name == "Symbol";
-  QFont font(stands_in ? QStringLiteral("Arial") : text_of(spec.Name));
+QFont font_of(const FontSpec& wanted, const QPaintDevice& device, double ratio) {
+  const bool stands_in = wanted.Name == "MS Sans Serif" || wanted.Name == "Symbol";
+  QFont font(stands_in ? QStringLiteral("Arial") : text_of(wanted.Name));
   font.setStyleHint(QFont::SansSerif,
                     QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
   constexpr double smallest = 1, largest = 1000;
-  const double size = std::isfinite(spec.size) ? std::clamp(spec.size, smallest, largest) : FontSpec{}.size;
+  const double size =
+      std::isfinite(wanted.size) ? std::clamp(wanted.size, smallest, largest) : FontSpec{}.size;
   font.setPointSizeF(size * ratio * pixels_per_inch / std::max(1, device.logicalDpiY()));
-  font.setBold(spec.bold);
-  font.setUnderline(spec.underline);
+  font.setBold(wanted.bold);
+  font.setUnderline(wanted.underline);
   return font;
 }
 
