@@ -5,8 +5,6 @@
 
 namespace mirolen::print {
 
-/// A `flat_ratio` of a notch; any other is one of a flat.
-inline constexpr double notch = 1;
 /// `ShowDispl` of a renderer on a page.
 inline constexpr std::int16_t on_page = 1;
 /// Inclination of a wafer seen from above.

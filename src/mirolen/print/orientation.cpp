@@ -8,6 +8,7 @@
 #include "mirolen/print/target.h"
 #include "mirolen/render/InclinedCircle.h"
 #include "mirolen/render/Screen.h"
+#include "mirolen/render/flat_ratio.h"
 
 namespace mirolen {
 namespace {
@@ -42,7 +43,7 @@ void PrintWafer::DrawFlatNotchSymbol(double& x, double& y, double style, double&
   target.ForeColor(QBColor(0));
   target.FillColor(QBColor(15));
   target.Circle(x, y, r, {}, {}, {}, aspect);
-  if (style == print::notch) {
+  if (style == notch) {
     const double turn = rot * Pi / 180;
     const SurfacePoint A = P(rot + 10, r + r / 3), B = P(rot - 10, r + r / 3);
     const SurfacePoint T{x + 0.8 * std::sin(turn) * r, y + 0.8 * std::cos(turn) * (aspect * r)};
@@ -60,7 +61,7 @@ void PrintWafer::DrawFlatNotchSymbol(double& x, double& y, double style, double&
 }
 
 void PrintWafer::DrawFlatNotchBox(double left, double top, double style, double rot, double incl) {
-  DrawFrame(style == print::notch ? tr("Notch") : tr("Flat"), left, top, 975, 1095);
+  DrawFrame(style == notch ? tr("Notch") : tr("Flat"), left, top, 975, 1095);
   double x = left + 488, y = top + 800, r = 350;
   DrawFlatNotchSymbol(x, y, style, r, rot, incl);
 }

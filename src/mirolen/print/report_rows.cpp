@@ -6,6 +6,7 @@
 #include "mirolen/print/layout.h"
 #include "mirolen/print/text_writers.h"
 #include "mirolen/render/StringFormat.h"
+#include "mirolen/render/flat_ratio.h"
 
 namespace mirolen::print {
 namespace {

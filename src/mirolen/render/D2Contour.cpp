@@ -6,14 +6,13 @@
 #include "mirolen/render/ContourMesh.h"
 #include "mirolen/render/PlanPainter.h"
 #include "mirolen/render/Screen.h"
+#include "mirolen/render/flat_ratio.h"
 
 namespace mirolen {
 namespace {
 
 enum Marks : std::int16_t { at_sites = 1, at_nodes = 2 };
 enum Colors : std::int16_t { three_colors = 1, ten_colors = 2 };
-
-constexpr double notch = 1.0;
 
 void show_message(const std::string& text, const std::string& title) {
   if (screen().message) screen().message(text, title);

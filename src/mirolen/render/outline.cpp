@@ -6,11 +6,10 @@
 #include "mirolen/render/Companions.h"
 #include "mirolen/render/InclinedCircle.h"
 #include "mirolen/render/PlotCanvas.h"
+#include "mirolen/render/flat_ratio.h"
 
 namespace mirolen {
 namespace {
-
-constexpr double notch = 1.0;
 
 void draw_line(PlotCanvas& canvas, SurfacePoint from, SurfacePoint to, std::optional<Color> color = {}) {
   canvas.Line(line_flags, from.x, from.y, to.x, to.y, color);
