@@ -221,6 +221,27 @@ TEST(Interpolation, IsZeroWhereTheMeanLeavesTheNumbers) {
   EXPECT_GT(sample.Interpolation(10, 0), 1e304);
 }
 
+TEST(Interpolation, OfManyPointsKeepsToTheRulesOfOne) {
+  for (const int count : {0, 3, 5, 12}) {
+    wafer sample;
+    set_diameters(sample, kDiameter, kDiameter);
+    if (count > 0) load(sample, ring_of_sites(count, 50));
+    const std::vector<double> x{0, 50, kNaN, 1e160, -7, kInfinity, 3000}, y{0, 0, 1, 0, 9, 0, -3000};
+    std::vector<double> values(x.size(), kNaN);
+    sample.Interpolation(x, y, values);
+    for (std::size_t i = 0; i < x.size(); ++i)
+      EXPECT_EQ(values[i], sample.Interpolation(x[i], y[i])) << count << ": " << x[i] << ' ' << y[i];
+  }
+}
+
+TEST(Interpolation, OfManyPointsRefusesArraysOfDifferentLengths) {
+  const wafer sample;
+  const std::vector<double> two(2), three(3);
+  std::vector<double> values(3);
+  EXPECT_THROW(sample.Interpolation(two, three, values), SubscriptOutOfRange);
+  EXPECT_THROW(sample.Interpolation(three, two, values), SubscriptOutOfRange);
+}
+
 TEST(Interpolation, SearchesByCellsFromTenSitesUp) {
   SiteList sites{{-80, 0, 100}};
   sites.resize(10, {80, 0, 1});
@@ -262,10 +283,10 @@ TEST(Interpolation, SeesAnOverwrittenSiteWithoutNewStatistics) {
 
 // ---- Against the plain algorithm ----
 
-enum class Layout { kUniform, kGrid, kDuplicates, kClusters, kLine };
+enum class Layout { kUniform, kGrid, kDuplicates, kClusters, kLine, kCrowd };
 
 void PrintTo(Layout layout, std::ostream* out) {
-  static const std::vector<std::string> names{"Uniform", "Grid", "Duplicates", "Clusters", "Line"};
+  static const std::vector<std::string> names{"Uniform", "Grid", "Duplicates", "Clusters", "Line", "Crowd"};
   *out << names[static_cast<std::size_t>(layout)];
 }
 
@@ -290,6 +311,7 @@ SiteList positions(Random& random, Layout layout, int count, double radius) {
     if (layout == Layout::kDuplicates && i > 0 && chance(random, 0.6)) site = one_of(random, sites);
     if (layout == Layout::kClusters) site = {centre.x + spread, centre.y + site.y * 0.01, 0};
     if (layout == Layout::kLine) site = {9 * spread * std::cos(angle), 9 * spread * std::sin(angle), 0};
+    if (layout == Layout::kCrowd) site = {centre.x + site.x * 1e-4, centre.y + site.y * 1e-4, 0};
     sites.push_back(site);
   }
   return sites;
@@ -350,13 +372,37 @@ Site point_of_interest(Random& random, const Pair& pair) {
   }
 }
 
-void expect_same_bits(const Pair& pair, const Site& point) {
+void expect_same_bits(const Pair& pair, const Site& point, double result) {
   const double expected = pair.plain.Interpolation(point.x, point.y);
-  const double result = pair.real.Interpolation(point.x, point.y);
   ASSERT_EQ(std::bit_cast<std::uint64_t>(result), std::bit_cast<std::uint64_t>(expected))
       << result << " instead of " << expected << " at (" << point.x << ", " << point.y << ") among "
       << pair.plain.GetNop() << " sites, radius " << pair.radius << ", test diameter "
       << pair.plain.test_diam;
+}
+
+void expect_same_bits(const Pair& pair, const Site& point) {
+  expect_same_bits(pair, point, pair.real.Interpolation(point.x, point.y));
+}
+
+/// Points along a line at equal steps, as renderers ask for them; now and then one lies elsewhere.
+SiteList points_in_a_row(Random& random, const Pair& pair) {
+  const Site start = point_of_interest(random, pair);
+  const double step = pair.radius * one_of<double>(random, {1e-7, 0.001, 0.01, 0.02, 0.1, 0.7});
+  const double angle = one_of<double>(random, {0, 0, 0, 1.5, 3.5, 6});
+  SiteList points;
+  for (int i = 0; i < between(random, 0, 60); ++i) {
+    const Site next{start.x + i * step * std::cos(angle), start.y + i * step * std::sin(angle), 0};
+    points.push_back(chance(random, 0.05) ? point_of_interest(random, pair) : next);
+  }
+  return points;
+}
+
+void expect_same_bits(const Pair& pair, const SiteList& points) {
+  const std::vector<double> x = column(points, &Site::x), y = column(points, &Site::y);
+  std::vector<double> results(points.size(), kNaN);
+  pair.real.Interpolation(x, y, results);
+  for (std::size_t i = 0; i < points.size(); ++i)
+    ASSERT_NO_FATAL_FAILURE(expect_same_bits(pair, points[i], results[i])) << "point " << i << " of many";
 }
 
 class InterpolationOfRandomSites : public RandomInput, public testing::WithParamInterface<Layout> {
@@ -373,16 +419,25 @@ std::string name_of(const testing::TestParamInfo<Layout>& layout) {
 
 INSTANTIATE_TEST_SUITE_P(Layouts, InterpolationOfRandomSites,
                          testing::Values(Layout::kUniform, Layout::kGrid, Layout::kDuplicates,
-                                         Layout::kClusters, Layout::kLine),
+                                         Layout::kClusters, Layout::kLine, Layout::kCrowd),
                          name_of);
 
 TEST_P(InterpolationOfRandomSites, EqualsThePlainAlgorithmToTheLastBit) {
-  for (int set = 0; set < 120; ++set) {
+  for (int set = 0; set < rounds(120); ++set) {
     Pair pair;
     fill_with_random_sites(random, GetParam(), some_count(), pair);
     for (int i = 0; i < 250; ++i) {
       ASSERT_NO_FATAL_FAILURE(expect_same_bits(pair, point_of_interest(random, pair)));
     }
+  }
+}
+
+TEST_P(InterpolationOfRandomSites, OfManyPointsEqualsThePlainAlgorithmToTheLastBit) {
+  for (int set = 0; set < rounds(120); ++set) {
+    Pair pair;
+    fill_with_random_sites(random, GetParam(), some_count(), pair);
+    for (int i = 0; i < 10; ++i)
+      ASSERT_NO_FATAL_FAILURE(expect_same_bits(pair, points_in_a_row(random, pair)));
   }
 }
 

@@ -139,4 +139,9 @@ RandomInput::RandomInput()
   RecordProperty("MIROLEN_SEED", std::to_string(seed_));
 }
 
+int RandomInput::rounds(int everyday) {
+  const char* effort = std::getenv("MIROLEN_EFFORT");
+  return effort ? everyday * std::max(1, std::atoi(effort)) : everyday;
+}
+
 }  // namespace mirolen

@@ -74,10 +74,13 @@ const T& one_of(Random& random, const std::vector<T>& choices) {
   return choices[static_cast<std::size_t>(between(random, 0, static_cast<int>(choices.size()) - 1))];
 }
 
-/// Tests over random input: every failure tells the seed, and MIROLEN_SEED repeats a run.
+/// Tests over random input: every failure tells the seed, and MIROLEN_SEED repeats a run. MIROLEN_EFFORT
+/// makes them so many times as long: 1 in everyday use, 100 and more overnight.
 class RandomInput : public testing::Test {
  protected:
   RandomInput();
+  /// How many rounds to run where every day takes so many.
+  static int rounds(int everyday);
 
  private:
   std::uint64_t seed_;

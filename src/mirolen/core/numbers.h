@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdint>
 #include <initializer_list>
+#include <limits>
 #include <string>
 
 #include "mirolen/core/RunTimeError.h"
@@ -15,9 +16,26 @@ using Color = std::uint32_t;
 /// Rounds to a whole number, ties to the even one, whatever rounding mode the host has set.
 double round_half_even(double value);
 
+/// round_half_even of a number of less than 2^52.
+inline std::int64_t nearest_whole(double value) {
+  const auto cut = static_cast<std::int64_t>(value);
+  const std::int64_t below = cut - (static_cast<double>(cut) > value);
+  const double rest = value - static_cast<double>(below);
+  return below + ((rest > 0.5) | ((rest == 0.5) & ((below & 1) == 1)));
+}
+
 /// round_half_even into 16 or 32 bits. @throws OverflowError where the result does not fit (NaN never does).
-std::int16_t to_int16(double value);
-std::int32_t to_int32(double value);
+template <class Integer>
+Integer to_integer(double value) {
+  using Limits = std::numeric_limits<Integer>;
+  if (value > Limits::min() - 1.0 && value < Limits::max() + 1.0) {
+    const std::int64_t whole = nearest_whole(value);
+    if (whole >= Limits::min() && whole <= Limits::max()) return static_cast<Integer>(whole);
+  }
+  throw OverflowError("the value does not fit its integer type");
+}
+inline std::int16_t to_int16(double value) { return to_integer<std::int16_t>(value); }
+inline std::int32_t to_int32(double value) { return to_integer<std::int32_t>(value); }
 
 /// The 32-bit colour that a Double carries: rounded, modulo 2^32. @throws InvalidArgument if not finite.
 Color to_color(double value);

@@ -67,15 +67,12 @@ double wafer::StdNormal(double u) { return 1 / std::sqrt(2 * Pi) * std::exp(-0.5
 void wafer::BuildSiteCells() {
   const double R = WafDiam / 2;
   const std::int16_t n = to_int16(Nop);
+  quick_ = false;
   SiteCells = {};
-  GridCell = n >= 4 ? square_root(checked(R * R * Pi * 4) / n) : 2 * R;
-  HalfCells = to_int16(divide(R, GridCell));
-
-  std::vector<SiteIndex::Cell> cells;
-  cells.reserve(GridPos.size());
-  for (const Position& site : GridPos)
-    cells.push_back({to_int16(site.x / GridCell + HalfCells), to_int16(site.y / GridCell + HalfCells)});
-  SiteCells = SiteIndex(2 * HalfCells + 1, cells);
+  const double GridCell = n >= 4 ? square_root(checked(R * R * Pi * 4) / n) : 2 * R;
+  SiteCells = SiteIndex(GridCell, to_int16(divide(R, GridCell)), GridPos);
+  Quick = QuickSearch(SiteCells, GridPos, GridVal);
+  quick_ = true;
 }
 
 }  // namespace mirolen

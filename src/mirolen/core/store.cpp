@@ -16,6 +16,7 @@ void wafer::reset() {
   FW_NUll = false;
   FW_Negativ = false;
   FirstUse = true;
+  quick_ = false;
   GridPos.clear();
   GridVal.clear();
 }
@@ -31,6 +32,7 @@ void wafer::SetNop(double Number) {
   GridPos.swap(positions);
   GridVal.swap(values);
   Nop = Number;
+  quick_ = false;
 }
 
 void wafer::SetGridValue(double x, double y, double Z) {
@@ -60,6 +62,7 @@ void wafer::store_site(std::int32_t site, double x, double y, double Z) {
   const bool zero = Z == 0 || (Z < nearly_zero && Z > -nearly_zero);
   if (zero) FW_NUll = true;
   if (!zero && Z < 0) FW_Negativ = true;
+  quick_ = false;
   GridPos[at] = {x, y};
   GridVal[at] = zero ? 0 : Z;
 }

@@ -1,0 +1,316 @@
+#include "mirolen/core/QuickSearch.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <limits>
+
+#include "mirolen/core/Lanes.h"
+#include "mirolen/core/NearestFour.h"
+#include "mirolen/core/Ring.h"
+
+namespace mirolen {
+namespace {
+
+constexpr std::int32_t at_once = 4;
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr float nothing = std::numeric_limits<float>::max();
+
+double square(const SiteIndex::Position& a, const SiteIndex::Position& b) {
+  return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y);
+}
+
+double distance(const SiteIndex::Position& a, const SiteIndex::Position& b) {
+  return std::sqrt(square(a, b));
+}
+
+/// The five smallest keys that each lane has met, smallest first. A key is a squared distance whose lowest
+/// bits carry the candidate's number. One that is not a number is passed over.
+class FiveSmallest {
+ public:
+  void insert(Lanes key) {
+    pass(a_, key);
+    pass(b_, key);
+    pass(c_, key);
+    pass(d_, key);
+    e_ = lesser(key, e_);
+  }
+
+  /// Makes them the five smallest of all lanes together.
+  void join_lanes() {
+    join([](Lanes lanes) { return lanes.halves_swapped(); });
+    join([](Lanes lanes) { return lanes.neighbours_swapped(); });
+  }
+
+  std::array<float, 5> lane(std::size_t i) const { return {a_[i], b_[i], c_[i], d_[i], e_[i]}; }
+
+ private:
+  /// Keeps the lesser of a place's key and this one, and passes the greater on.
+  static void pass(Lanes& place, Lanes& key) {
+    const Lanes less = lesser(key, place);
+    key = greater(place, key);
+    place = less;
+  }
+  /// Puts two keys in order.
+  static void order(Lanes& low, Lanes& high) { pass(low, high); }
+
+  /// Of two ascending rows, one of them reversed, the lesser of each pair are the five smallest of both; they
+  /// rise and then fall, so that the least is at an end and four exchanges order the others.
+  template <class Other>
+  void join(Other other) {
+    Lanes a = lesser(a_, other(e_)), b = lesser(b_, other(d_)), c = lesser(c_, other(c_)),
+          d = lesser(d_, other(b_)), e = lesser(e_, other(a_));
+    order(a, e);
+    order(e, c);
+    order(b, d);
+    order(e, b);
+    order(c, d);
+    a_ = a, b_ = e, c_ = b, d_ = c, e_ = d;
+  }
+
+  // Not an array, so that they stay in registers.
+  Lanes a_ = Lanes::all(nothing), b_ = a_, c_ = a_, d_ = a_, e_ = a_;
+};
+
+}  // namespace
+
+/// The cells round the homes of points that lie near each other, with all their neighbours, and the sites in
+/// them: each row of cells is one run of sites. A candidate's number is made of its row and its place there.
+class QuickSearch::Block {
+ public:
+  Block(const SiteIndex& index, const SiteIndex::Home& low, const SiteIndex::Home& high) {
+    const std::int64_t end = index.side() - 1;
+    const std::int64_t left = std::max<std::int64_t>(low.x - 1, 0), right = std::min(high.x + 1, end);
+    const std::int64_t bottom = std::max<std::int64_t>(low.y - 1, 0), top = std::min(high.y + 1, end);
+    for (std::int64_t y = bottom; y <= top; ++y) {
+      const SiteIndex::Run run = index.run(left, right, y);
+      fits_ = fits_ && rows_ < most_rows && run.last - run.first <= row_step;
+      if (fits_) runs_[rows_++] = run;
+    }
+  }
+
+  bool fits() const { return fits_; }
+  std::size_t rows() const { return rows_; }
+  const SiteIndex::Run& run(std::size_t row) const { return runs_[row]; }
+  static std::int32_t first_number(std::size_t row) { return static_cast<std::int32_t>(row * row_step); }
+  std::size_t place(float key) const {
+    const std::uint32_t number = std::bit_cast<std::uint32_t>(key) & Lanes::Numbers::most;
+    return runs_[number / row_step].first + number % row_step;
+  }
+
+ private:
+  static constexpr std::uint32_t row_step = 64;
+  static constexpr std::size_t most_rows = (Lanes::Numbers::most + 1) / row_step;
+
+  bool fits_ = true;
+  std::size_t rows_ = 0;
+  std::array<SiteIndex::Run, most_rows> runs_;
+};
+
+QuickSearch::QuickSearch(const SiteIndex& index, std::span<const SiteIndex::Position> positions,
+                         std::span<const double> values) {
+  // Beyond these sizes single precision would not hold the squares.
+  if (!(index.GridCell() > 1e-9 && index.GridCell() < 1e9)) return;
+  coordinate_error_ = (index.HalfCells() + 1) * index.GridCell() * 0x1p-24;
+  x_.reserve(index.sites().size() + at_once);
+  y_.reserve(index.sites().size() + at_once);
+  sites_.reserve(index.sites().size());
+  for (const std::int16_t number : index.sites()) {
+    const auto site = static_cast<std::size_t>(number);
+    sites_.push_back({positions[site], values[site]});
+    x_.push_back(static_cast<float>(positions[site].x));
+    y_.push_back(static_cast<float>(positions[site].y));
+  }
+  // The last ones are read by fours, too.
+  x_.resize(sites_.size() + at_once);
+  y_.resize(sites_.size() + at_once);
+}
+
+double QuickSearch::value(const SiteIndex& index, double Xa, double Ya, double farthest) const {
+  return value(index, Point{{Xa, Ya}, index.home(Xa, Ya)}, farthest);
+}
+
+double QuickSearch::value(const SiteIndex& index, const Point& point, double farthest) const {
+  if (sites_.empty() || !index.contains(point.home)) return unsure;
+  const Block block(index, point.home, point.home);
+  return block.fits() ? weigh(index, block, nearest(block, point), point, farthest) : unsure;
+}
+
+QuickSearch::Keys QuickSearch::nearest(const Block& block, const Point& point) const {
+  const Lanes X = Lanes::all(static_cast<float>(point.x)), Y = Lanes::all(static_cast<float>(point.y));
+  const auto key = [&](std::uint32_t place, Lanes::Numbers number) {
+    const Lanes dx = Lanes::load(&x_[place]) - X, dy = Lanes::load(&y_[place]) - Y;
+    return (dx * dx + dy * dy).numbered(number);
+  };
+  FiveSmallest five;
+  for (std::size_t row = 0; row < block.rows(); ++row) {
+    const auto [first, last] = block.run(row);
+    Lanes::Numbers number = Lanes::Numbers::from(block.first_number(row));
+    std::uint32_t place = first;
+    for (; place + at_once < last; place += at_once, number += at_once) five.insert(key(place, number));
+    five.insert(key(place, number).first(last - place));
+  }
+  five.join_lanes();
+  return five.lane(0);
+}
+
+/// The same for four points that share a block, each in a lane of its own.
+std::array<QuickSearch::Keys, 4> QuickSearch::nearest(const Block& block, const FourPoints& points) const {
+  std::array<float, 4> x, y;
+  for (std::size_t i = 0; i < 4; ++i) {
+    x[i] = static_cast<float>(points[i].x);
+    y[i] = static_cast<float>(points[i].y);
+  }
+  const Lanes X = Lanes::load(x.data()), Y = Lanes::load(y.data());
+  FiveSmallest five;
+  for (std::size_t row = 0; row < block.rows(); ++row) {
+    const auto [first, last] = block.run(row);
+    Lanes::Numbers number = Lanes::Numbers::all(block.first_number(row));
+    for (std::uint32_t place = first; place < last; ++place, number += 1) {
+      const Lanes dx = Lanes::all(x_[place]) - X, dy = Lanes::all(y_[place]) - Y;
+      five.insert((dx * dx + dy * dy).numbered(number));
+    }
+  }
+  return {five.lane(0), five.lane(1), five.lane(2), five.lane(3)};
+}
+
+void QuickSearch::values(const SiteIndex& index, std::span<const double> Xa, std::span<const double> Ya,
+                         double farthest, std::span<double> results) const {
+  for (std::size_t i = 0; i < results.size(); i += 4) {
+    const std::size_t count = std::min<std::size_t>(4, results.size() - i);
+    FourPoints points;
+    for (std::size_t k = 0; k < 4; ++k) {
+      const std::size_t at = i + std::min(k, count - 1);
+      points[k] = {{Xa[at], Ya[at]}, index.home(Xa[at], Ya[at])};
+    }
+    const std::array<double, 4> four = values(index, points, farthest);
+    std::copy_n(four.begin(), count, results.begin() + static_cast<std::ptrdiff_t>(i));
+  }
+}
+
+std::array<double, 4> QuickSearch::values(const SiteIndex& index, const FourPoints& points,
+                                          double farthest) const {
+  std::array<double, 4> results;
+  results.fill(unsure);
+  SiteIndex::Home low = points[0].home, high = low;
+  bool inside = !sites_.empty();
+  for (const Point& point : points) {
+    inside &= index.contains(point.home);
+    low.x = std::min(low.x, point.home.x), high.x = std::max(high.x, point.home.x);
+    low.y = std::min(low.y, point.home.y), high.y = std::max(high.y, point.home.y);
+  }
+  const bool near = high.x - low.x <= 2 && high.y - low.y <= 2;
+  if (inside && near) {
+    const Block block(index, low, high);
+    if (block.fits()) {
+      // A block round more than one home has cells that a point's own ring lacks; they are at least so far
+      // off.
+      const bool one_home = low.x == high.x && low.y == high.y;
+      const double nearer = one_home ? farthest : std::min(farthest, 0.999 * index.GridCell());
+      const std::array<Keys, 4> keys = nearest(block, points);
+      for (std::size_t k = 0; k < 4; ++k) results[k] = weigh(index, block, keys[k], points[k], nearer);
+      if (one_home) return results;
+    }
+  }
+  for (std::size_t k = 0; k < 4; ++k)
+    if (std::isnan(results[k])) results[k] = value(index, points[k], farthest);
+  return results;
+}
+
+/// How far a key can lie from its squared distance: coordinates, differences, squares and sum are rounded,
+/// and the lowest bits hold a number instead.
+double QuickSearch::error_of_key(double distance) const {
+  const double e = coordinate_error_;
+  return 6 * distance * e + 9 * e * e + distance * distance * 0x1p-13;
+}
+
+/// Whether the search, which holds the farthest distance against the square of its reach, looks at the ring
+/// round the home cell and at no other. The reach starts between 0 and 1/2 and then grows by a cell.
+bool QuickSearch::ends_behind_one_ring(const SiteIndex& index, const Point& point, double D4) {
+  const double cell = index.GridCell();
+  if (D4 > 0.25 && D4 <= cell * cell) return true;
+  const double reach = index.to_line(point.x, point.y), next = reach + cell;
+  return D4 > reach * reach && D4 <= next * next;
+}
+
+double QuickSearch::weigh(const SiteIndex& index, const Block& block, const Keys& keys, const Point& point,
+                          double farthest) const {
+  if (!(keys[3] < nothing)) return unsure;
+  std::array<double, 4> z, D;
+  for (std::size_t slot = 0; slot < 4; ++slot) {
+    const Site& site = sites_[block.place(keys[slot])];
+    D[slot] = distance(point, site);
+    z[slot] = site.z;
+  }
+  if (!(keys[4] > D[3] * D[3] + error_of_key(D[3]))) return weigh_first_met(index, keys, point, farthest);
+  if (!(std::max({D[0], D[1], D[2], D[3]}) < farthest)) return unsure;
+  if (!(D[0] < D[1] && D[1] < D[2] && D[2] < D[3])) put_in_order(index, block, keys, point, D, z);
+  return ends_behind_one_ring(index, point, D[3]) ? mean_of(D, z) : unsure;
+}
+
+/// Sorts the winners by their distance, and equal ones as the search meets them: by their cells, and within a
+/// cell by their place.
+void QuickSearch::put_in_order(const SiteIndex& index, const Block& block, const Keys& keys,
+                               const Point& point, std::array<double, 4>& D, std::array<double, 4>& z) const {
+  struct Winner {
+    double distance;
+    std::uint64_t met;
+    double z;
+    bool operator<(const Winner& other) const {
+      return distance != other.distance ? distance < other.distance : met < other.met;
+    }
+  };
+  std::array<Winner, 4> winners;
+  for (std::size_t slot = 0; slot < 4; ++slot) {
+    const std::size_t place = block.place(keys[slot]);
+    const SiteIndex::Home cell = index.home(sites_[place].x, sites_[place].y);
+    const auto turn = static_cast<std::uint64_t>(Ring::turn(cell.x - point.home.x, cell.y - point.home.y));
+    winners[slot] = {D[slot], turn << 32 | place, z[slot]};
+  }
+  std::sort(winners.begin(), winners.end());
+  for (std::size_t slot = 0; slot < 4; ++slot) {
+    D[slot] = winners[slot].distance;
+    z[slot] = winners[slot].z;
+  }
+}
+
+/// Of equal distances the search keeps the sites that it meets first. Looks in its order, once more, at the
+/// sites that are hardly farther than the fourth.
+double QuickSearch::weigh_first_met(const SiteIndex& index, const Keys& keys, const Point& point,
+                                    double farthest) const {
+  const double fourth = keys[3];
+  const double bound = fourth + 2 * error_of_key(std::sqrt(fourth) + 8 * coordinate_error_);
+  NearestFour nearest(infinity, infinity, 0);
+  const auto insert_cell = [&](std::int64_t cx, std::int64_t cy) {
+    const auto [first, last] = index.run(cx, cx, cy);
+    for (std::uint32_t place = first; place < last; ++place)
+      if (square(point, sites_[place]) <= bound)
+        nearest.insert(static_cast<std::int32_t>(place), distance(point, sites_[place]));
+  };
+  insert_cell(point.home.x, point.home.y);
+  Ring{point.home.x, point.home.y, 1}.visit(index.side(), insert_cell);
+
+  const double D4 = nearest.farthest();
+  if (!(D4 < farthest) || !ends_behind_one_ring(index, point, D4)) return unsure;
+  std::array<double, 4> z, D;
+  for (std::size_t slot = 0; slot < 4; ++slot) {
+    D[slot] = nearest.distance(slot);
+    z[slot] = sites_[static_cast<std::size_t>(nearest.site(slot))].z;
+  }
+  return mean_of(D, z);
+}
+
+double QuickSearch::mean_of(const std::array<double, 4>& D, const std::array<double, 4>& z) {
+  if (D[0] < on_a_site) return z[0];
+  double weighted = 0, weights = 0;
+  for (std::size_t slot = 0; slot < 4; ++slot) {
+    const double square = D[slot] * D[slot];
+    weighted += z[slot] / square;
+    weights += 1 / square;
+  }
+  const double mean = weighted / weights;
+  return std::isfinite(mean) ? mean : unsure;
+}
+
+}  // namespace mirolen

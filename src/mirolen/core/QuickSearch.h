@@ -1,0 +1,66 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <vector>
+
+#include "mirolen/core/SiteIndex.h"
+
+namespace mirolen {
+
+/// A point nearer to a site than this takes the site's own value, millimetres.
+constexpr double on_a_site = 0.0001;
+
+/// The value at a point from the four sites nearest to it, at the price of one look: candidates are ranked at
+/// single precision and without a branch, and the four winners are weighed at double precision in the very
+/// steps of the search through the index. It answers only where it is sure that the search finds the same
+/// four sites in the same order, so that both agree to the last bit. Elsewhere (sites far off, a crowd) it
+/// answers `unsure`, and the search has to look.
+class QuickSearch {
+ public:
+  static constexpr double unsure = std::numeric_limits<double>::quiet_NaN();
+
+  /// Has no sites and is never sure.
+  QuickSearch() = default;
+  /// Of the sites of an index. Cost: one pass over them.
+  QuickSearch(const SiteIndex& index, std::span<const SiteIndex::Position> positions,
+              std::span<const double> values);
+
+  /// The value at a point, from sites that are all nearer than farthest. index: the one it was built of.
+  double value(const SiteIndex& index, double Xa, double Ya, double farthest) const;
+  /// The same for as many points as there are results; points that follow each other closely cost least.
+  void values(const SiteIndex& index, std::span<const double> Xa, std::span<const double> Ya, double farthest,
+              std::span<double> results) const;
+
+ private:
+  struct Site : SiteIndex::Position {
+    double z = 0;
+  };
+  struct Point : SiteIndex::Position {
+    SiteIndex::Home home;
+  };
+  using Keys = std::array<float, 5>;
+  using FourPoints = std::array<Point, 4>;
+  class Block;
+
+  double value(const SiteIndex& index, const Point& point, double farthest) const;
+  std::array<double, 4> values(const SiteIndex& index, const FourPoints& points, double farthest) const;
+  Keys nearest(const Block& block, const Point& point) const;
+  std::array<Keys, 4> nearest(const Block& block, const FourPoints& points) const;
+  double error_of_key(double distance) const;
+  static bool ends_behind_one_ring(const SiteIndex& index, const Point& point, double D4);
+  double weigh(const SiteIndex& index, const Block& block, const Keys& keys, const Point& point,
+               double farthest) const;
+  void put_in_order(const SiteIndex& index, const Block& block, const Keys& keys, const Point& point,
+                    std::array<double, 4>& D, std::array<double, 4>& z) const;
+  double weigh_first_met(const SiteIndex& index, const Keys& keys, const Point& point, double farthest) const;
+  static double mean_of(const std::array<double, 4>& D, const std::array<double, 4>& z);
+
+  double coordinate_error_ = 0;
+  std::vector<float> x_, y_;  // in the order of the index, as are the sites
+  std::vector<Site> sites_;
+};
+
+}  // namespace mirolen

@@ -1,0 +1,121 @@
+#include "mirolen/core/QuickSearch.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "support/site_support.h"
+
+namespace mirolen {
+namespace {
+
+constexpr double far_enough = 400;
+
+/// A quick search of its own, over an index as a wafer of 200 mm has it.
+struct Searched {
+  std::vector<SiteIndex::Position> positions;
+  std::vector<double> values;
+  SiteIndex index;
+  QuickSearch quick;
+
+  void build() {
+    const double cell =
+        std::sqrt(100.0 * 100.0 * 4 * std::atan(1.0) * 4 / static_cast<double>(positions.size()));
+    index = SiteIndex(cell, static_cast<std::int16_t>(std::lround(100 / cell)), positions);
+    quick = QuickSearch(index, positions, values);
+  }
+  bool sure_at(double x, double y) const { return !std::isnan(quick.value(index, x, y, far_enough)); }
+};
+
+class QuickSearchOfRandomSites : public RandomInput {
+ protected:
+  Searched uniform_sites(int count) {
+    Searched searched;
+    while (static_cast<int>(searched.positions.size()) < count) {
+      const double x = between(random, -97.0, 97.0), y = between(random, -97.0, 97.0);
+      if (std::hypot(x, y) > 97) continue;
+      searched.positions.push_back({x, y});
+      searched.values.push_back(between(random, 1.0, 9.0));
+    }
+    searched.build();
+    return searched;
+  }
+};
+
+TEST_F(QuickSearchOfRandomSites, IsSureOfNearlyAllPoints) {
+  for (const int count : {49, 1000, 32767}) {
+    const Searched searched = uniform_sites(count);
+    std::vector<double> x, y;
+    for (int j = -60; j <= 60; ++j)
+      for (int i = -60; i <= 60; ++i) x.push_back(i * 1.1), y.push_back(j * 1.1);
+    std::vector<double> values(x.size());
+    searched.quick.values(searched.index, x, y, far_enough, values);
+
+    const auto unsure = static_cast<double>(
+        std::count_if(values.begin(), values.end(), [](double value) { return std::isnan(value); }));
+    EXPECT_LT(unsure / static_cast<double>(x.size()), 0.01) << count << " sites";
+    for (std::size_t i = 0; i < x.size(); ++i) {
+      if (std::isnan(values[i])) continue;
+      EXPECT_EQ(values[i], searched.quick.value(searched.index, x[i], y[i], far_enough));
+    }
+  }
+}
+
+TEST_F(QuickSearchOfRandomSites, IsNotSureOutsideItsCells) {
+  const Searched searched = uniform_sites(1000);
+  for (const double far : {150.0, 1e5, 1e9, 1e300, kInfinity, kNaN}) {
+    EXPECT_FALSE(searched.sure_at(far, 0)) << far;
+    EXPECT_FALSE(searched.sure_at(0, -far)) << far;
+  }
+}
+
+TEST_F(QuickSearchOfRandomSites, IsNotSureBeyondTheFarthestDistance) {
+  const Searched searched = uniform_sites(1000);
+  ASSERT_TRUE(searched.sure_at(3, 4));
+  EXPECT_TRUE(std::isnan(searched.quick.value(searched.index, 3, 4, 0.5)));
+}
+
+TEST(QuickSearch, WithoutSitesIsNeverSure) {
+  EXPECT_TRUE(std::isnan(QuickSearch().value(SiteIndex(), 0, 0, far_enough)));
+}
+
+/// A grid whose pitch is 8 mm, and a value for each site.
+Searched grid_of_sites() {
+  Searched searched;
+  for (int j = -8; j <= 8; ++j)
+    for (int i = -8; i <= 8; ++i) {
+      searched.positions.push_back({8.0 * i, 8.0 * j});
+      searched.values.push_back(i + 100 * j);
+    }
+  searched.build();
+  return searched;
+}
+
+TEST(QuickSearch, KeepsTheSitesMetFirstOfEqualDistances) {
+  const Searched grid = grid_of_sites();
+  EXPECT_EQ(grid.quick.value(grid.index, 4, 4, far_enough), (0 + 1 + 100 + 101) / 4.0);
+  for (const auto& [x, y] : {std::pair{2.0, 0.0}, {4.0, 1.0}, {-12.0, 8.0}, {20.0, 20.0}})
+    EXPECT_TRUE(grid.sure_at(x, y)) << x << ' ' << y;
+}
+
+TEST(QuickSearch, TakesTheValueOfASiteVeryNear) {
+  const Searched grid = grid_of_sites();
+  EXPECT_EQ(grid.quick.value(grid.index, 16 + 5e-5, 24 + 1e-5, far_enough), 2 + 300);
+  EXPECT_EQ(grid.quick.value(grid.index, 16, 24, far_enough), 2 + 300);
+}
+
+TEST(QuickSearch, IsNotSureInACrowd) {
+  Searched crowd;
+  for (int i = 0; i < 500; ++i) {
+    crowd.positions.push_back({20 + 0.01 * i, 30 + 0.001 * i * i});
+    crowd.values.push_back(i);
+  }
+  for (auto& position : crowd.positions) position.y = std::fmod(position.y, 90);
+  crowd.build();
+  EXPECT_FALSE(crowd.sure_at(21, 31));
+}
+
+}  // namespace
+}  // namespace mirolen
