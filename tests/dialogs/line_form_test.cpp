@@ -152,10 +152,23 @@ TEST_F(LineForm, OkRefusesAFieldThatWasNotLeft) {
   form.resy(1).Text("x");
   EXPECT_FALSE(ok());
   EXPECT_EQ(message(), not_numeric);
-  EXPECT_EQ(toolkit.focused, &form.resy(1));
   form.resx(1).Text("500");
   EXPECT_FALSE(ok());
   EXPECT_EQ(message(), too_far);
+  EXPECT_EQ(toolkit.focused, nullptr) << "the focus stays";
+}
+
+TEST_F(LineForm, ABadFieldLeavesTheOtherOfItsPointAlone) {
+  by_points();
+  for (const char* bad : {"x", "", "1e9"}) {
+    form.resy(0).Text(bad);
+    EXPECT_FALSE(ok()) << bad;
+    EXPECT_EQ(message(), not_numeric) << bad;
+    EXPECT_EQ(form.resx(0).Text(), "-10") << bad;
+    EXPECT_EQ(form.resy(0).Text(), "-30") << bad;
+  }
+  EXPECT_TRUE(ok());
+  EXPECT_EQ(result(), (Result{true, -7, -10, -30, 20, 40}));
 }
 
 TEST_F(LineForm, APointOfTheHostBeyondTheTestDiameterIsRefusedAtOk) {

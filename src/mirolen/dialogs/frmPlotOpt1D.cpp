@@ -1,6 +1,7 @@
 #include "mirolen/dialogs/frmPlotOpt1D.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "mirolen/core/translation.h"
 #include "mirolen/dialogs/input_checks.h"
@@ -12,8 +13,10 @@ namespace {
 constexpr double row = 360, field_width = 720, field_height = 300;
 
 /// The number of a field: what is stored as long as it shows that.
-double number_of(const TextField& field, double stored) {
-  return field.Text() == StringFormat::plain_text(stored) ? stored : number_in(field.Text());
+std::optional<double> number_of(const TextField& field, double stored) {
+  if (field.Text() == StringFormat::plain_text(stored)) return stored;
+  if (!IsPlainDecimal(field.Text(), true)) return std::nullopt;
+  return number_in(field.Text());
 }
 
 }  // namespace
@@ -119,14 +122,14 @@ void frmPlotOpt1D::enable_fields() {
 }
 
 bool frmPlotOpt1D::leave(TextField& field, double& stored, int i) {
-  const std::string before = StringFormat::plain_text(stored);
-  if (field.Text() != before && !IsPlainDecimal(field.Text(), true)) {
+  if (!number_of(field, stored)) {
     input_error(tr("Enter a numeric experssion"));
-    field.Text(before);
+    field.Text(StringFormat::plain_text(stored));
     return false;
   }
   const auto at = static_cast<std::size_t>(i);
-  const double x = number_of(resx(i), line_.x[at]), y = number_of(resy(i), line_.y[at]);
+  const double x = number_of(resx(i), line_.x[at]).value_or(line_.x[at]);
+  const double y = number_of(resy(i), line_.y[at]).value_or(line_.y[at]);
   const double radius = wafer_ ? wafer_->test_diam / 2 : 0;
   if (x * x + y * y > radius * radius) {
     input_error(tr("Testdiameter exeded"));
@@ -143,10 +146,7 @@ bool frmPlotOpt1D::leave(TextField& field, double& stored, int i) {
 bool frmPlotOpt1D::leave_all() {
   for (int i = 0; i < 2; ++i)
     for (TextField* field : {&resx(i), &resy(i)})
-      if (!field->OnLeave()) {
-        field->SetFocus();
-        return false;
-      }
+      if (!field->OnLeave()) return false;
   return true;
 }
 
