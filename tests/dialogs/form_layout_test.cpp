@@ -1,3 +1,4 @@
+#include <map>
 #include <set>
 
 #include "form_support.h"
@@ -77,6 +78,44 @@ TYPED_TEST(FormLayout, NothingCoversAnything) {
                          a->Top + a->Height <= b->Top || b->Top + b->Height <= a->Top;
       EXPECT_TRUE(apart) << static_cast<int>(a->kind()) << ' ' << static_cast<int>(b->kind());
     }
+}
+
+template <class Kind>
+std::vector<const Kind*> all(const std::vector<Widget*>& widgets) {
+  std::vector<const Kind*> found;
+  for (const Widget* widget : widgets)
+    if (const auto* one = dynamic_cast<const Kind*>(widget)) found.push_back(one);
+  return found;
+}
+
+TYPED_TEST(FormLayout, FieldsAreOfOneSize) {
+  for (const TextField* field : all<TextField>(this->placed())) {
+    EXPECT_EQ(field->Width, Rows::field_width);
+    EXPECT_EQ(field->Height, 300);
+  }
+}
+
+TYPED_TEST(FormLayout, LabelsAreSpelledAlike) {
+  std::set<bool> blank_before_colon;
+  for (const Label* label : all<Label>(this->placed()))
+    if (label->Caption.get().find(':') != std::string::npos)
+      blank_before_colon.insert(label->Caption.get().find(" :") != std::string::npos);
+  EXPECT_EQ(blank_before_colon.size(), 1u);
+}
+
+TYPED_TEST(FormLayout, GroupsEndTogether) {
+  std::map<double, double> bottoms;  // of the columns of groups
+  for (const Frame* group : all<Frame>(this->form.children())) {
+    double& bottom = bottoms[group->Left];
+    bottom = std::max(bottom, group->Top + group->Height);
+  }
+  for (const auto& [left, bottom] : bottoms) EXPECT_EQ(bottom, bottoms.begin()->second) << left;
+}
+
+TYPED_TEST(FormLayout, PicturesLieSideBySide) {
+  std::set<double> tops;
+  for (const PictureBox* picture : all<PictureBox>(this->placed())) tops.insert(picture->Top);
+  EXPECT_LE(tops.size(), 1u);
 }
 
 TYPED_TEST(FormLayout, AccessKeysAreLettersOfTheirCaptionsAndDiffer) {

@@ -46,6 +46,7 @@ void ViewOptions::place_all(Button& ok, Button& cancel) {
   Rows wafer_rows(frmwafer);
   wafer_rows.add(lblphi, tphi);
   wafer_rows.add_picture(FNPlot, preview_side);
+  FNPlot.Top = Plot.Top;
   const double height = std::max({frmplot.Height.get(), frmgrid.Height.get(), frmwafer.Height.get()});
   for (Frame* group : {&frmplot, &frmgrid, &frmwafer}) group->Height = height;
   place_below(ok, cancel, frmwafer.Left + frmwafer.Width, Rows::gap + height + Rows::gap);

@@ -10,8 +10,6 @@
 namespace mirolen {
 namespace {
 
-constexpr double row = 360, field_width = 720, field_height = 300;
-
 /// The number of a field: what is stored as long as it shows that.
 std::optional<double> number_of(const TextField& field, double stored) {
   if (field.Text() == StringFormat::plain_text(stored)) return stored;
@@ -41,7 +39,7 @@ frmPlotOpt1D::frmPlotOpt1D(Toolkit& toolkit) : OptionForm(toolkit) {
 
 frmPlotOpt1D::PointFields& frmPlotOpt1D::point(int i) {
   if (i < 0 || i > 1) throw SubscriptOutOfRange();
-  return i == 0 ? start_ : end_;
+  return i == 0 ? start : end;
 }
 
 void frmPlotOpt1D::watch(TextField& field, double& stored, int i) {
@@ -50,26 +48,23 @@ void frmPlotOpt1D::watch(TextField& field, double& stored, int i) {
 }
 
 void frmPlotOpt1D::place_line_group() {
-  constexpr double left = Rows::gap, column = left + 1200;
-  frmline.Move(left, left, column + 2 * field_width + 2 * Rows::gap);
-  optline(0).Move(left, 270, frmline.Width - 2 * left, Rows::option_height);
-  lblangle.Move(left, 270 + row, 1200, field_height);
-  AngleValue.Move(column, lblangle.Top, field_width, field_height);
-  optline(1).Move(left, lblangle.Top + row + 60, frmline.Width - 2 * left, Rows::option_height);
-  lblx.Move(column, optline(1).Top + 330, field_width, 225);
-  lbly.Move(column + field_width + Rows::gap, lblx.Top, field_width, 225);
-  lblstart.Move(left, lblx.Top + 255, 1200, field_height);
-  lblend.Move(left, lblstart.Top + row, 1200, field_height);
-  for (int i = 0; i < 2; ++i) {
-    const double top = lblstart.Top + i * row;
-    resx(i).Move(lblx.Left, top, field_width, field_height);
-    resy(i).Move(lbly.Left, top, field_width, field_height);
-  }
-  frmline.Height = lblend.Top + row + 60;
+  constexpr double next_column = Rows::field_width + Rows::gap, head_height = 225;
+  frmline.Move(Rows::gap, Rows::gap);
+  Rows rows(frmline, Rows::group_width + next_column);
+  rows.add(optline(0), Rows::option_height);
+  rows.add(lblangle, AngleValue);
+  rows.add(optline(1), Rows::option_height);
+  rows.add(lblx, head_height);
+  rows.add(lblstart, start.x);
+  rows.add(lblend, end.x);
+  for (PointFields* fields : {&start, &end})
+    fields->y.Move(fields->x.Left + next_column, fields->x.Top, Rows::field_width, fields->x.Height);
+  lblx.Move(start.x.Left, lblx.Top, Rows::field_width);
+  lbly.Move(start.y.Left, lblx.Top, Rows::field_width, head_height);
 }
 
 void frmPlotOpt1D::place_wafer_group() {
-  constexpr double group = 1500;
+  constexpr double group = 1800;
   frmwafer.Move(frmline.Left + frmline.Width + Rows::gap, Rows::gap);
   Rows rows(frmwafer, group);
   picplus.Move(0, 0, 330, 330);

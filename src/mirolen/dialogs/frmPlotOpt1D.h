@@ -29,22 +29,19 @@ class frmPlotOpt1D : public OptionForm {
 
   Frame frmline{this, "Line"};
   ControlArray<OptionButton, 0, 2> optline{&frmline};  // by an angle, by two points
-  Label lblangle{&frmline, "Angle :"};
+  Label lblangle{&frmline, "Angle: "};
   AngleField AngleValue{&frmline};
   Label lblx{&frmline, "X"};
   Label lbly{&frmline, "Y"};
-  Label lblstart{&frmline, "Start point:"};
-  Label lblend{&frmline, "End point:"};
-
- private:
-  /// Fields of the points, in the order in which the Tab key passes them.
+  /// The fields of a point, in the order in which the Tab key passes them.
   struct PointFields {
     explicit PointFields(Widget* container) : x(container), y(container) {}
     TextField x, y;
   };
-  PointFields start_{&frmline}, end_{&frmline};
-
- public:
+  Label lblstart{&frmline, "Start point:"};
+  PointFields start{&frmline};
+  Label lblend{&frmline, "End point:"};
+  PointFields end{&frmline};
   /// The coordinates of the start (0) and of the end (1). @throws SubscriptOutOfRange.
   TextField& resx(int i) { return point(i).x; }
   TextField& resy(int i) { return point(i).y; }
@@ -66,7 +63,6 @@ class frmPlotOpt1D : public OptionForm {
   PointFields& point(int i);
   void place_line_group();
   void place_wafer_group();
-  void place_heads(double left);
   void enable_fields();
   void watch(TextField& field, double& stored, int i);
   bool leave(TextField& field, double& stored, int i);

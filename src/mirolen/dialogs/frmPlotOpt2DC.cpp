@@ -31,6 +31,7 @@ void frmPlotOpt2DC::place_groups() {
   Rows(frmmark).add_options(OptExcon);
   frmcol.Move(second, frmmark.Top + frmmark.Height + Rows::gap);
   Rows(frmcol).add_options(Optcol);
+  frmquali.Height = frmcol.Top + frmcol.Height - frmquali.Top;
   place_below(OKbtn, cancel, second + frmcol.Width, frmcol.Top + frmcol.Height + Rows::gap);
 }
 
