@@ -2,13 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <functional>
 
 #include "mirolen/qt/FormView.h"
+#include "mirolen/qt/PlotWidget.h"
 #include "mirolen/qt/QtToolkit.h"
 #include "mirolen/qt/peers.h"
 
@@ -47,6 +51,51 @@ inline void show_to(Form& form, const std::function<void()>& user) {
     if (dialog) form.Hide();
   });
   form.Show();
+}
+
+/// Lets a user answer the option form that a face opens. What is left open is closed.
+inline void answer_options(qt::PlotWidget& face, const std::function<void(QWidget& dialog)>& user) {
+  bool seen = false;
+  QTimer::singleShot(0, &face, [&] {
+    const QPointer<QWidget> dialog(QApplication::activeModalWidget());
+    if (!dialog || !QTest::qWaitForWindowActive(dialog)) return;
+    seen = QTest::qWaitFor([&] { return dialog->isAncestorOf(QApplication::focusWidget()); });
+    user(*dialog);
+    if (dialog) dialog->close();
+  });
+  face.ShowPlotOption();
+  EXPECT_TRUE(seen);
+}
+
+/// Presses a key where the focus is, or is again after a message.
+inline void press(Qt::Key key, Qt::KeyboardModifiers with = {}) {
+  ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
+  QTest::keyClick(QApplication::focusWidget(), key, with);
+}
+
+/// A field by its place among those that the Tab key passes.
+inline QLineEdit& field(QWidget& dialog, qsizetype number) {
+  return *dialog.findChildren<QLineEdit*>().at(number);
+}
+
+inline bool gets_focus(const QWidget& widget) {
+  return QTest::qWaitFor([&] { return widget.hasFocus(); });
+}
+
+/// Types a text in place of all that a field holds.
+inline void enter(QLineEdit& field, const QString& text) {
+  field.setFocus();
+  field.selectAll();
+  if (text.isEmpty()) press(Qt::Key_Delete);
+  QTest::keyClicks(&field, text);
+}
+
+/// Clicks on what has a caption.
+inline void click(QWidget& dialog, const QString& caption) {
+  for (auto* button : dialog.findChildren<QAbstractButton*>())
+    if (button->text().remove('&') == caption)
+      return QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
+  ADD_FAILURE() << caption.toStdString();
 }
 
 }  // namespace mirolen::qt_test

@@ -1,14 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
-#include <QLineEdit>
-#include <QPointer>
-#include <QTest>
-#include <QTimer>
-
-#include "mirolen/qt/Plot2DS.h"
 #include "qt/form_user.h"
 #include "qt/nine_faces.h"
 #include "qt/qt_support.h"
@@ -18,116 +9,206 @@ namespace {
 
 using namespace qt_test;
 
-/// Lets a user answer the form that a face opens. What is left open is closed.
-template <class User>
-bool answered(qt::PlotWidget& face, User user) {
-  bool seen = false;
-  QTimer::singleShot(0, &face, [&] {
-    const QPointer<QWidget> dialog(QApplication::activeModalWidget());
-    if (!dialog || !QTest::qWaitForWindowActive(dialog)) return;
-    seen = QTest::qWaitFor([&] { return dialog->isAncestorOf(QApplication::focusWidget()); });
-    user(*dialog);
-    if (dialog) dialog->close();
-  });
-  face.ShowPlotOption();
-  return seen;
-}
+/// What becomes of a number that is entered.
+enum class Takes { decimals, whole_numbers, degrees };
 
-QLineEdit& field(QWidget& dialog, qsizetype number) { return *dialog.findChildren<QLineEdit*>().at(number); }
-
-void enter(QLineEdit& field, const QString& text) {
-  field.setFocus();
-  field.selectAll();
-  if (text.isEmpty()) QTest::keyClick(&field, Qt::Key_Delete);
-  QTest::keyClicks(&field, text);
-}
-
-class OptionsOnTheScreen : public testing::Test {
- protected:
-  OptionsOnTheScreen() {
-    face.resize(600, 450);
-    face.show();
-    QTest::qWait(0);
-    load_slope(face);
-    face.setResolution(5);
-    face.Plot();
-  }
-  QImage picture() { return face.grab().toImage(); }
-
-  qt::Plot2DS face;
-  MessageReader reader;
+/// A text that is typed into a field, or an option that is clicked, and the property where it arrives.
+struct Entry {
+  const char* text;
+  const char* property;
+  Takes takes;
+};
+struct Choice {
+  const char* caption;
+  const char* property;
+  double value;
 };
 
-TEST_F(OptionsOnTheScreen, TakeNoTextThatIsNoNumber) {
-  EXPECT_TRUE(answered(face, [&](QWidget& dialog) {
-    enter(field(dialog, 0), "x");
-    EXPECT_EQ(field(dialog, 0).text(), "5");
-    enter(field(dialog, 0), "7");
-    QTest::keyClicks(&field(dialog, 0), "e");
-    EXPECT_EQ(field(dialog, 0).text(), "5") << "the number shown first";
-  }));
-  EXPECT_EQ(face.Resolution(), 5);
-}
+struct FaceWithOptions {
+  const char* name;
+  std::vector<Entry> fields;
+  std::vector<Choice> choices;
+  const char* complaint;  ///< About fields that are all empty.
+};
+void PrintTo(const FaceWithOptions& face, std::ostream* stream) { *stream << face.name; }
 
-TEST_F(OptionsOnTheScreen, TellTwoBadFieldsInOneBoxAndStayOpen) {
-  const QImage before = picture();
-  EXPECT_TRUE(answered(face, [&](QWidget& dialog) {
-    enter(field(dialog, 0), "");
-    enter(field(dialog, 1), "1000");
-    QTest::keyClick(&field(dialog, 1), Qt::Key_Return);
-    EXPECT_EQ(reader.texts, QStringList{"Resolution can not be empty\nSigma Range not valid\n"});
-    EXPECT_TRUE(dialog.isVisible());
-    QTest::keyClick(&dialog, Qt::Key_Escape);
-    EXPECT_FALSE(dialog.isVisible());
-  }));
-  EXPECT_EQ(face.Resolution(), 5);
-  EXPECT_EQ(face.SigmaRange(), 0.5);
-  EXPECT_EQ(picture(), before);
-}
+constexpr Takes decimals = Takes::decimals, whole = Takes::whole_numbers, degrees = Takes::degrees;
+const Choice marks{"Show", "ShowSites", -1}, on_white{"White background", "BackColor", white};
+const Choice on_grey{"White background", "BackColor", static_cast<std::int32_t>(button_face)};
 
-TEST_F(OptionsOnTheScreen, AreTakenAndDrawnByReturn) {
-  const QImage before = picture();
-  EXPECT_TRUE(answered(face, [&](QWidget& dialog) {
-    enter(field(dialog, 0), "10");
-    enter(field(dialog, 1), "1.5");
-    QTest::keyClick(&field(dialog, 1), Qt::Key_Return);
-  }));
-  EXPECT_EQ(face.Resolution(), 10);
-  EXPECT_EQ(face.SigmaRange(), 1.5);
-  EXPECT_NE(picture(), before);
-  EXPECT_EQ(reader.texts, QStringList());
-}
+const std::vector<FaceWithOptions> checked_faces{
+    {"Plot2D", {{"10", "Resolution", decimals}}, {marks, on_white}, "Resolution can not be empty\n"},
+    {"Plot2DS",
+     {{"10", "Resolution", decimals}, {"1.5", "SigmaRange", decimals}},
+     {marks, on_white},
+     "Resolution can not be empty\nSigma Range can not be empty\n"},
+    {"Plot2DC",
+     {{"25", "Interval", decimals}},
+     {{"High", "Resolution", 1}, {"None", "marksites", 3}, {"Ten colors", "PlotColored", 2}, on_white},
+     "Interval can not be empty\n"},
+    {"Plot2DB",
+     {{"8", "BeamWidth", decimals},
+      {"9", "BeamHeight", decimals},
+      {"7.5", "BeamScale", decimals},
+      {"10", "GridRotation", degrees},
+      {"80", "GridInclination", degrees},
+      {"200", "WaferRotation", degrees}},
+     {},
+     "Bar width can not be empty\nBar depth can not be empty\nScale factor can not be empty\n"},
+    {"Plot3D",
+     {{"8", "XResolution", decimals},
+      {"9", "YResolution", decimals},
+      {"7", "PlotScale", whole},
+      {"10", "GridRotation", degrees},
+      {"80", "GridInclination", degrees},
+      {"200", "WaferRotation", degrees}},
+     {{"Wire Frame", "PlotType", 3}, on_white},
+     "X Resolution can not be empty\nY Resolution can not be empty\nScale Factor can not be empty\n"},
+    {"Plot3DS",
+     {{"8", "XResolution", decimals},
+      {"9", "YResolution", decimals},
+      {"7", "PlotScale", whole},
+      {"1.5", "SigmaRange", decimals},
+      {"10", "GridRotation", degrees},
+      {"80", "GridInclination", degrees},
+      {"200", "WaferRotation", degrees}},
+     {on_white},
+     "X Resolution can not be empty\nY Resolution can not be empty\nScale Factor can not be empty\n"
+     "Sigma Range can not be empty\n"},
+    {"Histogram", {{"4", "Resolution", whole}}, {on_grey}, "Resolution can not be empty\n"}};
+const FaceWithOptions line_scan{"LineScan", {{"70", "angle", degrees}}, {marks}, nullptr};
 
-/// All stored properties of a face.
-std::vector<automation::Variant> settings_of(const qt::PlotWidget& face) {
-  std::vector<automation::Variant> values;
-  for (const automation::StoredKey& stored : face.by_name().info->stored)
-    values.push_back(automation::get(face.by_name(), stored.property));
-  return values;
-}
+class OptionForms : public testing::TestWithParam<FaceWithOptions> {
+ protected:
+  OptionForms() {
+    face->resize(600, 450);
+    face->show();
+    QTest::qWait(0);
+    load_slope(*face);
+    face->Plot();
+    before_ = settings();
+    picture_before_ = picture();
+  }
 
-class OptionsOfAFace : public testing::TestWithParam<const char*> {};
-INSTANTIATE_TEST_SUITE_P(All, OptionsOfAFace,
-                         testing::Values("Plot2D", "Plot2DS", "Plot2DC", "Plot2DB", "Plot3D", "Plot3DS",
-                                         "Histogram", "LineScan"));
+  void answer(const std::function<void(QWidget&)>& user) { answer_options(*face, user); }
+  template <class Act>
+  void for_each_field(QWidget& dialog, Act act) {
+    qsizetype number = 0;
+    for (const Entry& entry : GetParam().fields) act(field(dialog, number++), entry);
+  }
+  void enter_all(QWidget& dialog) {
+    for_each_field(dialog, [](QLineEdit& at, const Entry& entry) { enter(at, entry.text); });
+    for (const Choice& choice : GetParam().choices) click(dialog, choice.caption);
+  }
+  void expect(const char* property, double value) {
+    const automation::Variant got = automation::get(face->by_name(), property);
+    EXPECT_EQ(std::get<double>(automation::converted(got, automation::Type::real)), value) << property;
+  }
+  void expect_nothing_changed() {
+    EXPECT_TRUE(settings() == before_);
+    EXPECT_EQ(picture(), picture_before_);
+  }
+  void expect_drawn_anew() { EXPECT_NE(picture(), picture_before_); }
 
-TEST_P(OptionsOfAFace, ChangeNothingWhenTheyAreCancelledOrTakenAsTheyAre) {
-  const std::unique_ptr<qt::PlotWidget> face = make_face(GetParam());
+  const std::unique_ptr<qt::PlotWidget> face = make_face(GetParam().name);
   MessageReader reader;
-  face->resize(600, 450);
-  face->show();
-  QTest::qWait(0);
-  load_slope(*face);
-  face->Plot();
-  const std::vector<automation::Variant> before = settings_of(*face);
-  for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
-    EXPECT_TRUE(answered(*face, [&](QWidget& dialog) {
-      QTest::keyClick(QApplication::focusWidget(), key);
-      EXPECT_FALSE(dialog.isVisible()) << key;
-    }));
-    EXPECT_TRUE(settings_of(*face) == before) << key;
+
+ private:
+  /// All stored properties.
+  std::vector<automation::Variant> settings() const {
+    std::vector<automation::Variant> values;
+    for (const automation::StoredKey& stored : face->by_name().info->stored)
+      values.push_back(automation::get(face->by_name(), stored.property));
+    return values;
+  }
+  /// Without the mark of the focus.
+  QImage picture() {
+    if (QWidget* const focus = face->focusWidget()) focus->clearFocus();
+    return face->grab().toImage();
+  }
+
+  std::vector<automation::Variant> before_;
+  QImage picture_before_;
+};
+using CheckedOptionForms = OptionForms;
+INSTANTIATE_TEST_SUITE_P(Seven, CheckedOptionForms, testing::ValuesIn(checked_faces));
+INSTANTIATE_TEST_SUITE_P(Seven, OptionForms, testing::ValuesIn(checked_faces));
+INSTANTIATE_TEST_SUITE_P(Line, OptionForms, testing::Values(line_scan));
+
+TEST_P(OptionForms, TakeNoTextThatIsNoNumber) {
+  answer([&](QWidget& dialog) {
+    for_each_field(dialog, [](QLineEdit& at, const Entry& entry) {
+      const QString before = at.text();
+      for (const char* bad : {"x", "-", ".", "e"}) {
+        enter(at, bad);
+        EXPECT_EQ(at.text(), before) << entry.property << ' ' << bad;
+      }
+      enter(at, "7");
+      QTest::keyClicks(&at, "d");
+      EXPECT_EQ(at.text(), entry.takes == degrees ? "7" : before) << entry.property;
+    });
+  });
+  expect_nothing_changed();
+}
+
+TEST_P(CheckedOptionForms, TellAllBadFieldsInOneBoxAndStayOpen) {
+  answer([&](QWidget& dialog) {
+    for_each_field(dialog, [](QLineEdit& at, const Entry&) { enter(at, ""); });
+    press(Qt::Key_Return);
+    EXPECT_EQ(reader.texts, QStringList{GetParam().complaint});
+    EXPECT_TRUE(dialog.isVisible());
+  });
+  expect_nothing_changed();
+}
+
+TEST_P(OptionForms, ChangeNothingWhenTheyAreCancelled) {
+  for (const bool by_key : {true, false}) {
+    answer([&](QWidget& dialog) {
+      enter_all(dialog);
+      by_key ? press(Qt::Key_Escape) : click(dialog, "Cancel");
+      EXPECT_FALSE(dialog.isVisible());
+    });
+    expect_nothing_changed();
   }
   EXPECT_EQ(reader.texts, QStringList());
+}
+
+TEST_P(OptionForms, ChangeNothingWhenTheyAreTakenAsTheyAre) {
+  answer([&](QWidget& dialog) {
+    press(Qt::Key_Return);
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  expect_nothing_changed();
+}
+
+TEST_P(OptionForms, BringWhatIsEnteredIntoThePlot) {
+  answer([&](QWidget& dialog) {
+    enter_all(dialog);
+    press(Qt::Key_Return);
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  for (const Entry& entry : GetParam().fields) expect(entry.property, std::stod(entry.text));
+  for (const Choice& choice : GetParam().choices) expect(choice.property, choice.value);
+  expect_drawn_anew();
+  EXPECT_EQ(reader.texts, QStringList());
+}
+
+TEST_P(OptionForms, TakeTheCommaOfTheLocaleAndNoPoint) {
+  const CommaInForce comma;
+  answer([&](QWidget& dialog) {
+    for_each_field(dialog, [](QLineEdit& at, const Entry& entry) {
+      const QString before = at.text();
+      enter(at, "2.");
+      EXPECT_EQ(at.text(), entry.takes == degrees ? "2" : before) << entry.property;
+      enter(at, "2,");
+      EXPECT_EQ(at.text(), entry.takes == degrees ? "2" : "2,") << entry.property;
+      QTest::keyClicks(&at, "75");
+    });
+    press(Qt::Key_Return);
+  });
+  for (const Entry& entry : GetParam().fields)
+    if (entry.takes != degrees) expect(entry.property, entry.takes == whole ? 3 : 2.75);
+  expect_drawn_anew();
 }
 
 }  // namespace

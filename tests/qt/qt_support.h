@@ -4,6 +4,7 @@
 #include <QString>
 #include <QTemporaryDir>
 #include <set>
+#include <string>
 #include <vector>
 
 #include "mirolen/qt/ImageSurface.h"
@@ -29,6 +30,16 @@ struct ShownPlot {
   std::shared_ptr<const Image> rendering() { return face.control().RePlot.Picture; }
 
   qt::Plot2D face;
+};
+
+/// A locale with a decimal comma, as QApplication takes it from the system.
+class CommaInForce {
+ public:
+  CommaInForce();
+  ~CommaInForce();
+
+ private:
+  const std::string before_;
 };
 
 /// A file that goes with its directory.

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QTranslator>
-#include <clocale>
 
 #include "mirolen/controls/descriptions.h"
 #include "mirolen/core/translation.h"
@@ -216,23 +215,6 @@ TYPED_TEST(FormOfPagesInGerman, CutsNoText) {
 }
 
 // ---- Numbers ----
-
-/// A locale with a decimal comma, as QApplication takes it from the system.
-class CommaInForce {
- public:
-  CommaInForce() {
-    EXPECT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr)
-        << "needs the locale de_DE.UTF-8: localedef -i de_DE -f UTF-8 de_DE.UTF-8";
-    const wafer made_in_this_locale;
-  }
-  ~CommaInForce() {
-    std::setlocale(LC_ALL, before_.c_str());
-    const wafer made_as_before;
-  }
-
- private:
-  const std::string before_ = std::setlocale(LC_ALL, nullptr);
-};
 
 TEST(FormAnswers, ReachThePlotWithADecimalComma) {
   const InGerman german;
