@@ -18,12 +18,23 @@ OptionButtonView::OptionButtonView(QWidget& parent, OptionButton& option) : Capt
 
 void OptionButtonView::show_state() {
   CaptionView::show_state();
+  // The Tab key goes to the chosen one of a group.
+  setFocusPolicy(
+      Qt::FocusPolicy(another_is_chosen() ? focusPolicy() & ~Qt::TabFocus : focusPolicy() | Qt::TabFocus));
   if (isChecked() == shown_.Value()) return;
   // By program none of a group may be chosen, which the group of Qt does not allow.
   const QSignalBlocker quiet(*this);
   setAutoExclusive(shown_.Value());
   setChecked(shown_.Value());
   setAutoExclusive(true);
+}
+
+bool OptionButtonView::another_is_chosen() const {
+  for (const Widget* sibling : shown_.container()->children()) {
+    const auto* option = dynamic_cast<const OptionButton*>(sibling);
+    if (option && option != &shown_ && option->Value()) return true;
+  }
+  return false;
 }
 
 CheckBoxView::CheckBoxView(QWidget& parent, CheckBox& box) : CaptionView(parent, box) {

@@ -54,6 +54,9 @@ class OptionButtonView : public CaptionView<QRadioButton, OptionButton, QStyle::
  public:
   OptionButtonView(QWidget& parent, OptionButton& option);
   void show_state() override;
+
+ private:
+  bool another_is_chosen() const;
 };
 
 class CheckBoxView : public CaptionView<QCheckBox, CheckBox, QStyle::SE_CheckBoxContents> {
