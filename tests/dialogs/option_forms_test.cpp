@@ -67,11 +67,33 @@ TYPED_TEST(EveryForm, OkAndCancelAreTheLastInTheTabOrder) {
   EXPECT_EQ(widgets.back(), &this->form.cancel);
 }
 
-TYPED_TEST(EveryForm, EachFieldTellsWhatItTakes) {
+/// What the fields of each form tell, in the order of the Tab key.
+using Tips = std::vector<std::string>;
+const std::string millimetres = "mm, more than 0.001 and less than ";
+const std::string deviations = "standard deviations, more than 0.001 and less than 1000";
+const std::string height = "height of the surface, more than 0.0000001 and less than 1000";
+const std::string angle = "degrees, 0 to 360", coordinate = "mm, within the test diameter";
+Tips tips(const frmPlotOpt2d&) { return {"mm, more than 0.01 and less than 51"}; }
+Tips tips(const frmPlotOpt2ds&) { return {millimetres + "51", deviations}; }
+Tips tips(const frmPlotOpt2DC&) { return {"unit of the interval, more than 0.009 and less than 1000"}; }
+Tips tips(const frmPlotOpt2DB&) {
+  const std::string bar_height = "mm a unit of the value, more than 0.0000001 and less than 1000";
+  return {millimetres + "101", millimetres + "101", bar_height, angle, angle, angle};
+}
+Tips tips(const frmPlotOpt3d&) {
+  return {millimetres + "51", millimetres + "51", height, angle, angle, angle};
+}
+Tips tips(const frmPlotOpt3ds&) {
+  return {millimetres + "51", millimetres + "51", height, deviations, angle, angle, angle};
+}
+Tips tips(const frmPlotHist&) { return {"classes, more than 1 and less than 1000"}; }
+Tips tips(const frmPlotOpt1D&) { return {angle, coordinate, coordinate, coordinate, coordinate}; }
+
+TYPED_TEST(EveryForm, EachFieldTellsItsUnitAndRange) {
+  Tips told;
   for (Widget* widget : below(this->form))
-    if (dynamic_cast<TextField*>(widget)) {
-      EXPECT_NE(widget->ToolTipText.get(), "");
-    }
+    if (dynamic_cast<TextField*>(widget)) told.push_back(widget->ToolTipText);
+  EXPECT_EQ(told, tips(this->form));
 }
 
 // ---- The limits of OK ----
@@ -143,6 +165,11 @@ TEST_F(SigmaMapForm, HoldsResolutionAndRange) {
   expect_limits(form.SSigma, {"Sigma Range ", {"0.0009", "0.001", "1000", "1000.1"}, {"0.0011", "999.9"}});
 }
 
+TEST_F(SigmaMapForm, TheUpperLimitIsRoundedToEven) {
+  data.test_diam = 194;  // 49.5, to the even 50
+  expect_limits(form.tresx, {"Resolution ", {"50"}, {"49.99"}});
+}
+
 TEST_F(ContourForm, HoldsTheInterval) {
   expect_limits(form.tdist, {"Interval ", {"0.0089", "0.009", "1000", "1000.1"}, {"0.0091", "999.9"}});
 }
@@ -157,6 +184,7 @@ TEST_F(BarForm, HoldsSizesAndScale) {
 TEST_F(BarForm, TheUpperLimitIsRoundedToEven) {
   data.test_diam = 199;  // 100.5, to the even 100
   expect_limits(form.tresx, {"Bar width ", {"100"}, {"99.99"}});
+  expect_limits(form.tresy, {"Bar depth ", {"100"}, {"99.99"}});
 }
 
 TEST_F(SurfaceForm, HoldsStepsAndScale) {
@@ -164,6 +192,12 @@ TEST_F(SurfaceForm, HoldsStepsAndScale) {
   expect_limits(form.tresy, {"Y Resolution ", {"0.0009", "0.001", "51", "51.1"}, {"0.0011", "50.9"}});
   expect_limits(form.tscale,
                 {"Scale Factor ", {"0.00000009", "0.0000001", "1000", "1000.1"}, {"0.00000011", "999.9"}});
+}
+
+TEST_F(SurfaceForm, TheUpperLimitIsRoundedToEven) {
+  data.test_diam = 194;  // 49.5, to the even 50
+  expect_limits(form.tresx, {"X Resolution ", {"50"}, {"49.99"}});
+  expect_limits(form.tresy, {"Y Resolution ", {"50"}, {"49.99"}});
 }
 
 TEST_F(SigmaSurfaceForm, HoldsStepsScaleAndRange) {
@@ -239,10 +273,6 @@ TEST_F(ColorMapForm, HasItsCaptions) {
   EXPECT_EQ(form.frmmark.Caption.get(), "Marked Sites:");
   EXPECT_EQ(form.optMark(0).Caption.get(), "Hide");
   EXPECT_EQ(form.optMark(1).Caption.get(), "Show");
-}
-
-TEST_F(ColorMapForm, TellsTheRangeOfItsField) {
-  EXPECT_EQ(form.tresx.ToolTipText.get(), "mm, more than 0.01 and less than 51");
 }
 
 TEST_F(SigmaMapForm, GivesBackWhatItWasGiven) {
