@@ -26,13 +26,15 @@ class MessageReader {
     timer_.start(1);
   }
   QStringList texts;
-  QWidget* owner = nullptr;  ///< Of the last one.
+  QString title;  ///< Of the last one, as its owner.
+  QWidget* owner = nullptr;
 
  private:
   void read() {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (!box) return;
     texts << box->text();
+    title = box->windowTitle();
     owner = box->parentWidget();
     box->accept();
     // As every window manager does.
@@ -53,18 +55,26 @@ inline void show_to(Form& form, const std::function<void()>& user) {
   form.Show();
 }
 
-/// Lets a user answer the option form that a face opens. What is left open is closed.
-inline void answer_options(qt::PlotWidget& face, const std::function<void(QWidget& dialog)>& user) {
-  bool seen = false;
-  QTimer::singleShot(0, &face, [&] {
-    const QPointer<QWidget> dialog(QApplication::activeModalWidget());
-    if (!dialog || !QTest::qWaitForWindowActive(dialog)) return;
-    seen = QTest::qWaitFor([&] { return dialog->isAncestorOf(QApplication::focusWidget()); });
+/// Lets a user answer the form that something opens. What is left open is closed.
+inline void answer_form(const std::function<void()>& open, const std::function<void(QWidget& dialog)>& user) {
+  bool answered = false;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    const QPointer<QWidget> dialog(dynamic_cast<qt::FormView*>(QApplication::activeModalWidget()));
+    if (answered || !dialog) return;
+    answered = true;
+    EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return dialog->isAncestorOf(QApplication::focusWidget()); }));
     user(*dialog);
     if (dialog) dialog->close();
   });
-  face.ShowPlotOption();
-  EXPECT_TRUE(seen);
+  timer.start(1);
+  open();
+  EXPECT_TRUE(answered);
+}
+
+inline void answer_options(qt::PlotWidget& face, const std::function<void(QWidget& dialog)>& user) {
+  answer_form([&] { face.ShowPlotOption(); }, user);
 }
 
 /// Presses a key where the focus is, or is again after a message.
@@ -91,8 +101,8 @@ inline void enter(QLineEdit& field, const QString& text) {
 }
 
 /// Clicks on what has a caption.
-inline void click(QWidget& dialog, const QString& caption) {
-  for (auto* button : dialog.findChildren<QAbstractButton*>())
+inline void click(QWidget& window, const QString& caption) {
+  for (auto* button : window.findChildren<QAbstractButton*>())
     if (button->text().remove('&') == caption)
       return QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(8, button->height() / 2));
   ADD_FAILURE() << caption.toStdString();

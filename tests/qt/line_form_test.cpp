@@ -80,6 +80,7 @@ TEST_F(LineFormOnTheScreen, KeepsTheFocusInAFieldWithoutANumber) {
         enter(field(dialog, at), "x");
         press(key);
         EXPECT_EQ(reader.texts, QStringList{"Enter a numeric experssion"}) << at;
+        EXPECT_EQ(reader.title, "Input Error");
         EXPECT_TRUE(gets_focus(field(dialog, at))) << at;
         EXPECT_EQ(field(dialog, at).text(), before) << at;
         reader.texts.clear();

@@ -135,6 +135,11 @@ INSTANTIATE_TEST_SUITE_P(Seven, CheckedOptionForms, testing::ValuesIn(checked_fa
 INSTANTIATE_TEST_SUITE_P(Seven, OptionForms, testing::ValuesIn(checked_faces));
 INSTANTIATE_TEST_SUITE_P(Line, OptionForms, testing::Values(line_scan));
 
+TEST_P(OptionForms, OpenByTheButtonOfTheFace) {
+  answer_form([&] { click(*face, "Plot- Options"); },
+              [](QWidget& dialog) { EXPECT_EQ(dialog.windowTitle(), "Define Plot Options"); });
+}
+
 TEST_P(OptionForms, TakeNoTextThatIsNoNumber) {
   answer([&](QWidget& dialog) {
     for_each_field(dialog, [](QLineEdit& at, const Entry& entry) {
@@ -156,6 +161,7 @@ TEST_P(CheckedOptionForms, TellAllBadFieldsInOneBoxAndStayOpen) {
     for_each_field(dialog, [](QLineEdit& at, const Entry&) { enter(at, ""); });
     press(Qt::Key_Return);
     EXPECT_EQ(reader.texts, QStringList{GetParam().complaint});
+    EXPECT_EQ(reader.title, "Input Error");
     EXPECT_TRUE(dialog.isVisible());
   });
   expect_nothing_changed();
@@ -209,6 +215,22 @@ TEST_P(OptionForms, TakeTheCommaOfTheLocaleAndNoPoint) {
   for (const Entry& entry : GetParam().fields)
     if (entry.takes != degrees) expect(entry.property, entry.takes == whole ? 3 : 2.75);
   expect_drawn_anew();
+}
+
+TEST(ARedrawThatCutsTheResolution, TellsItAndLetsTheUserChooseAnother) {
+  ShownPlot plot;
+  MessageReader reader;
+  plot.face.setResolution(40);
+  plot.face.setTestDiameter(120);
+  answer_form([&] { plot.face.Plot(); },
+              [&](QWidget& dialog) {
+                EXPECT_EQ(reader.texts, QStringList{"Maximal possible resolution is 30 mm"});
+                EXPECT_EQ(reader.title, "Standard resolution to high ");
+                EXPECT_EQ(field(dialog, 0).text(), "30");
+                enter(field(dialog, 0), "20");
+                press(Qt::Key_Return);
+              });
+  EXPECT_EQ(plot.face.Resolution(), 20);
 }
 
 }  // namespace
