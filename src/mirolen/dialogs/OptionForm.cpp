@@ -11,7 +11,7 @@
 namespace mirolen {
 namespace {
 
-constexpr double button_width = 1200, button_height = 375;
+constexpr double button_width = 1320, button_height = 375;
 
 }  // namespace
 
