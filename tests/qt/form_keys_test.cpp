@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cctype>
 #include <tuple>
 
 #include "dialogs/form_support.h"
