@@ -39,10 +39,10 @@ std::vector<UprightBox> parts_along(const UprightBox& box, const Row& row) {
 
 }  // namespace
 
-void CellRows::add(const UprightBox& cell, Color color) {
-  const UprightBox box{in_reach(cell.from), in_reach(cell.to)};
+void CellRows::add(const Cell& cell) {
+  const UprightBox box{in_reach(cell.box.from), in_reach(cell.box.to)};
   if (box.from.x == box.to.x || box.from.y == box.to.y) return;
-  if (extend_row(box, color)) return;
+  if (extend_row({box, cell.color})) return;
   const bool touches =
       !row_.empty() && (row_.front().box.to.y == box.from.y || box.to.y == row_.front().box.from.y);
   if (touches) {
@@ -52,25 +52,20 @@ void CellRows::add(const UprightBox& cell, Color color) {
   } else {
     end();
   }
-  row_.push_back({box, color});
+  row_.push_back({box, cell.color});
 }
 
-bool CellRows::extend_row(const UprightBox& box, Color color) {
+bool CellRows::extend_row(const Cell& cell) {
   if (row_.empty()) return false;
-  Run &first = row_.front(), &last = row_.back();
+  Cell &first = row_.front(), &last = row_.back();
+  const UprightBox& box = cell.box;
   if (box.from.y != first.box.from.y || box.to.y != first.box.to.y) return false;
   if (box.from.x >= last.box.to.x) {
-    if (box.from.x == last.box.to.x && color == last.color)
-      last.box.to.x = box.to.x;
-    else
-      row_.push_back({box, color});
+    if (!extend(last, cell)) row_.push_back(cell);
     return true;
   }
   if (box.to.x <= first.box.from.x) {
-    if (box.to.x == first.box.from.x && color == first.color)
-      first.box.from.x = box.from.x;
-    else
-      row_.push_front({box, color});
+    if (!extend(first, cell)) row_.push_front(cell);
     return true;
   }
   return false;

@@ -18,20 +18,16 @@ class CellRows {
   explicit CellRows(QPainter& painter) : painter_(painter) {}
 
   /// Paints a cell, now or later; it may lie anywhere.
-  void add(const UprightBox& cell, Color color);
+  void add(const Cell& cell);
   /// Paints what is kept back, before anything else is painted.
   void end();
 
  private:
-  struct Run {
-    UprightBox box;
-    Color color;
-  };
-  /// Boxes of one height side by side, apart or touching, from left to right.
-  using Row = std::deque<Run>;
+  /// Cells of one height side by side, apart or touching, from left to right.
+  using Row = std::deque<Cell>;
 
-  /// Whether the box belongs to the present row, which then has it.
-  bool extend_row(const UprightBox& box, Color color);
+  /// Whether the cell belongs to the present row, which then has it.
+  bool extend_row(const Cell& cell);
   void paint(const Row& row, const Row& following);
   void fill(const UprightBox& box, Color color);
 

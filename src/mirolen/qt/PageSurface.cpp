@@ -70,7 +70,7 @@ void PageSurface::polygon(const Pen& pen, const Brush& brush, std::span<const Pi
   if (points.empty()) return;
   if (!is_drawn(pen)) {
     if (!brush.solid) return;
-    if (const std::optional<UprightBox> box = upright_box(points)) return cells_.add(*box, brush.color);
+    if (const std::optional<UprightBox> box = upright_box(points)) return cells_.add({*box, brush.color});
   }
   const double to_centre = is_drawn(pen) ? 0.5 : 0;
   QPolygonF corners;

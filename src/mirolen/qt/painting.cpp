@@ -56,4 +56,18 @@ std::optional<UprightBox> upright_box(std::span<const PixelPoint> points) {
   return UprightBox{{std::min(a.x, c.x), std::min(a.y, c.y)}, {std::max(a.x, c.x), std::max(a.y, c.y)}};
 }
 
+bool extend(Cell& cell, const Cell& other) {
+  UprightBox& box = cell.box;
+  const bool alike =
+      other.color == cell.color && other.box.from.y == box.from.y && other.box.to.y == box.to.y;
+  if (!alike) return false;
+  if (other.box.from.x == box.to.x)
+    box.to.x = other.box.to.x;
+  else if (other.box.to.x == box.from.x)
+    box.from.x = other.box.from.x;
+  else
+    return false;
+  return true;
+}
+
 }  // namespace mirolen::qt

@@ -32,4 +32,12 @@ struct UprightBox {
 /// The box that a polygon is, if its edges are upright.
 std::optional<UprightBox> upright_box(std::span<const PixelPoint> points);
 
+/// A box without an outline, as the cells of a map are.
+struct Cell {
+  UprightBox box;
+  Color color = 0;
+};
+/// Lets a cell grow over another one of its colour and height right beside it. @return whether that is one.
+bool extend(Cell& cell, const Cell& other);
+
 }  // namespace mirolen::qt
