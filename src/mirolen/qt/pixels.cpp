@@ -59,10 +59,11 @@ class Flood {
 
 void fill_pixels(QImage& image, const QRect& rectangle, QRgb color) {
   const QRect area = rectangle & image.rect();
-  for (int y = area.top(); y <= area.bottom(); ++y) {
-    QRgb* const row = reinterpret_cast<QRgb*>(image.scanLine(y));
-    std::fill(row + area.left(), row + area.right() + 1, color);
-  }
+  if (area.isEmpty()) return;
+  const qsizetype pitch = image.bytesPerLine();
+  uchar* line = image.scanLine(area.top());
+  for (int y = area.top(); y <= area.bottom(); ++y, line += pitch)
+    std::fill_n(reinterpret_cast<QRgb*>(line) + area.left(), area.width(), color);
 }
 
 void flood_pixels(QImage& image, QPoint seed, QRgb boundary, QRgb color) {
