@@ -2,9 +2,11 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QVarLengthArray>
 #include <algorithm>
 #include <cmath>
 
+#include "mirolen/qt/DrawnImage.h"
 #include "mirolen/qt/Picture.h"
 #include "mirolen/qt/painting.h"
 #include "mirolen/qt/pixels.h"
@@ -17,14 +19,18 @@ constexpr qint64 frame_of_a_screen = 16;  // ms
 
 constexpr double largest_edge = 32767;  // the painter's limit, in device pixels
 
+constexpr Brush no_brush{0, false};
+
 QRgb rgb_of(Color color) { return qcolor_of(color).rgb(); }
 
 }  // namespace
 
 ImageSurface::ImageSurface(SurfaceSize size, double ratio, Show show)
-    : size_(size), ratio_(ratio), image_(make_image(ratio)), show_(std::move(show)) {
+    : size_(size), image_(std::make_unique<DrawnImage>(make_image(ratio), ratio)), show_(std::move(show)) {
   clear(0xFFFFFF);
 }
+
+ImageSurface::~ImageSurface() = default;
 
 QImage ImageSurface::make_image(double ratio) const {
   const double width = std::floor(size_.width * ratio + 0.5), height = std::floor(size_.height * ratio + 0.5);
@@ -36,44 +42,42 @@ QImage ImageSurface::make_image(double ratio) const {
 }
 
 QImage ImageSurface::image() const {
-  QImage copy = image_;
-  copy.setDevicePixelRatio(ratio_);
+  QImage copy = pixels();
+  copy.setDevicePixelRatio(ratio());
   return copy;
 }
 
+const QImage& ImageSurface::pixels() const { return image_->settled(); }
+
+double ImageSurface::ratio() const { return image_->ratio(); }
+
 void ImageSurface::change_ratio(double ratio) {
-  if (ratio == ratio_) return;
+  if (ratio == this->ratio()) return;
   const QSize size = make_image(ratio).size();
-  image_ = image_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-  ratio_ = ratio;
+  image_ = std::make_unique<DrawnImage>(
+      pixels().scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation), ratio);
 }
 
 SurfaceSize ImageSurface::twips_per_pixel() const { return {qt::twips_per_pixel, qt::twips_per_pixel}; }
 
-int ImageSurface::edge(double logical) const {
-  return static_cast<int>(in_reach(std::floor(logical * ratio_ + 0.5)));
-}
-
 QRect ImageSurface::device_box(const SurfaceBox& box) const {
   const auto [left, right] = std::minmax(box.from.x, box.to.x);
   const auto [top, bottom] = std::minmax(box.from.y, box.to.y);
-  return QRect(QPoint(edge(left), edge(top)), QPoint(edge(right + 1) - 1, edge(bottom + 1) - 1));
+  return QRect(QPoint(image_->edge(left), image_->edge(top)),
+               QPoint(image_->edge(right + 1) - 1, image_->edge(bottom + 1) - 1));
 }
 
 QPointF ImageSurface::centre_of(SurfacePoint pixel) const {
-  return {in_reach((pixel.x + 0.5) * ratio_), in_reach((pixel.y + 0.5) * ratio_)};
+  return {in_reach((pixel.x + 0.5) * ratio()), in_reach((pixel.y + 0.5) * ratio())};
 }
 
-void ImageSurface::clear(Color color) { image_.fill(rgb_of(color)); }
+void ImageSurface::clear(Color color) { image_->settled().fill(rgb_of(color)); }
 
 void ImageSurface::line(const Pen& pen, SurfacePoint from, SurfacePoint to) {
   if (!is_drawn(pen)) return;
   const bool upright = from.x == to.x || from.y == to.y;
   if (upright && pen.style == Pen::Style::solid) return upright_line(pen, from, to);
-  QPainter painter(&image_);
-  painter.setRenderHint(QPainter::Antialiasing, !upright && pen.width == 1);
-  painter.setPen(qpen(pen, ratio_));
-  painter.drawLine(centre_of(from), centre_of(to));
+  image_->painter(pen, no_brush, !upright && pen.width == 1).drawLine(centre_of(from), centre_of(to));
 }
 
 void ImageSurface::upright_line(const Pen& pen, SurfacePoint from, SurfacePoint to) {
@@ -84,11 +88,11 @@ void ImageSurface::upright_line(const Pen& pen, SurfacePoint from, SurfacePoint 
   box.from.y -= before;
   box.to.x += behind;
   box.to.y += behind;
-  fill_pixels(image_, device_box(box), rgb_of(pen.color));
+  image_->fill(device_box(box), pen.color);
 }
 
 void ImageSurface::rectangle(const Pen& pen, const Brush& brush, const SurfaceBox& box) {
-  if (brush.solid) fill_pixels(image_, device_box(box), rgb_of(brush.color));
+  if (brush.solid) image_->fill(device_box(box), brush.color);
   if (is_drawn(pen)) outline_box(pen, box);
 }
 
@@ -101,61 +105,55 @@ void ImageSurface::outline_box(const Pen& pen, const SurfaceBox& box) {
 }
 
 void ImageSurface::ellipse(const Pen& pen, const Brush& brush, SurfacePoint centre, SurfaceSize radii) {
-  QPainter painter(&image_);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(qpen(pen, ratio_));
-  painter.setBrush(qbrush(brush));
-  painter.drawEllipse(centre_of(centre), in_reach(radii.width * ratio_), in_reach(radii.height * ratio_));
+  image_->painter(pen, brush, true)
+      .drawEllipse(centre_of(centre), in_reach(radii.width * ratio()), in_reach(radii.height * ratio()));
 }
 
 void ImageSurface::arc(const Pen& pen, SurfacePoint centre, SurfaceSize radii, double start, double end) {
   const QPointF middle = centre_of(centre);
-  const QPointF reach(in_reach(radii.width * ratio_), in_reach(radii.height * ratio_));
+  const QPointF reach(in_reach(radii.width * ratio()), in_reach(radii.height * ratio()));
   const QRectF round(middle - reach, middle + reach);
-  QPainter(&image_).strokePath(arc_path(round, start, end), qpen(pen, ratio_));
+  QPainter(&image_->settled()).strokePath(arc_path(round, start, end), qpen(pen, ratio()));
 }
 
 void ImageSurface::polygon(const Pen& pen, const Brush& brush, std::span<const PixelPoint> points) {
   if (points.empty()) return;
-  const std::optional<UprightBox> box = is_drawn(pen) ? std::nullopt : upright_box(points);
-  if (box) {
-    const QPoint from(edge(box->from.x), edge(box->from.y)), beyond(edge(box->to.x), edge(box->to.y));
-    if (brush.solid) fill_pixels(image_, QRect(from, beyond - QPoint(1, 1)), rgb_of(brush.color));
-    return;
+  if (!is_drawn(pen)) {
+    if (!brush.solid) return;
+    if (const std::optional<UprightBox> box = upright_box(points)) return image_->add({*box, brush.color});
   }
-  QPolygonF corners;
+  QVarLengthArray<QPointF, 4> corners;
   for (const auto& [x, y] : points)
-    corners << (is_drawn(pen) ? centre_of({double(x), double(y)}) : QPointF(edge(x), edge(y)));
-  QPainter painter(&image_);
-  painter.setPen(qpen(pen, ratio_));
-  painter.setBrush(qbrush(brush));
-  painter.drawPolygon(corners);
+    corners << (is_drawn(pen) ? centre_of({double(x), double(y)})
+                              : QPointF(image_->edge(x), image_->edge(y)));
+  image_->painter(pen, brush, false).drawPolygon(corners.data(), static_cast<int>(corners.size()));
 }
 
 void ImageSurface::text(const FontSpec& font, Color color, std::optional<Color> background,
                         SurfacePoint place, std::string_view text) {
   if (background) {
     const SurfaceSize size = measure(font, text);
-    fill_pixels(image_, device_box({place, {place.x + size.width - 1, place.y + size.height - 1}}),
-                rgb_of(*background));
+    image_->fill(device_box({place, {place.x + size.width - 1, place.y + size.height - 1}}), *background);
   }
-  QPainter painter(&image_);
-  painter.setFont(font_of(font, image_, ratio_));
+  QImage& image = image_->settled();
+  QPainter painter(&image);
+  painter.setFont(font_of(font, image, ratio()));
   painter.setPen(qcolor_of(color));
-  painter.drawText(QPointF(edge(place.x), edge(place.y) + painter.fontMetrics().ascent()),
+  painter.drawText(QPointF(image_->edge(place.x), image_->edge(place.y) + painter.fontMetrics().ascent()),
                    shown_text(font, text));
 }
 
 SurfaceSize ImageSurface::measure(const FontSpec& font, std::string_view text) const {
-  const QFontMetricsF metrics(font_of(font, image_, ratio_), &image_);
-  return {metrics.horizontalAdvance(shown_text(font, text)) / ratio_, metrics.height() / ratio_};
+  QImage& image = image_->settled();
+  const QFontMetricsF metrics(font_of(font, image, ratio()), &image);
+  return {metrics.horizontalAdvance(shown_text(font, text)) / ratio(), metrics.height() / ratio()};
 }
 
 void ImageSurface::flood_fill(const Brush& brush, PixelPoint seed, Color boundary) {
   if (!brush.solid) return;
   const QPointF at = centre_of({double(seed.x), double(seed.y)});
   const QPoint pixel(static_cast<int>(std::floor(at.x())), static_cast<int>(std::floor(at.y())));
-  flood_pixels(image_, pixel, rgb_of(boundary), rgb_of(brush.color));
+  flood_pixels(image_->settled(), pixel, rgb_of(boundary), rgb_of(brush.color));
 }
 
 std::shared_ptr<const Image> ImageSurface::snapshot() const {
@@ -167,9 +165,9 @@ void ImageSurface::restore(const Image& image) {
   if (!picture) return;
   // A snapshot may come from a screen with another ratio.
   const QImage& kept = picture->image();
-  QPainter painter(&image_);
+  QPainter painter(&image_->settled());
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawImage(QRectF(QPointF(), kept.deviceIndependentSize() * ratio_), kept, QRectF(kept.rect()));
+  painter.drawImage(QRectF(QPointF(), kept.deviceIndependentSize() * ratio()), kept, QRectF(kept.rect()));
 }
 
 void ImageSurface::refresh() {

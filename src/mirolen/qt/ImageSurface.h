@@ -3,12 +3,13 @@
 #include <QElapsedTimer>
 #include <QImage>
 #include <functional>
+#include <memory>
 
 #include "mirolen/render/Surface.h"
 
-class QPainter;
-
 namespace mirolen::qt {
+
+class DrawnImage;
 
 /// A Surface on an image. It is drawn on in logical pixels; the image holds the pixels of the screen, so that
 /// a picture is sharp at every ratio of the two.
@@ -24,12 +25,13 @@ class ImageSurface : public Surface {
   /// @param size in logical pixels, each edge 1 at least. @param ratio device pixels of a logical pixel.
   /// @throws CanvasError for more than 32,767 device pixels in an edge, or than the memory holds.
   ImageSurface(SurfaceSize size, double ratio, Show show = {});
+  ~ImageSurface() override;
 
   /// A copy of the picture in device pixels, with its devicePixelRatio set.
   QImage image() const;
-  /// The picture itself, with a devicePixelRatio of 1.
-  const QImage& pixels() const { return image_; }
-  double ratio() const { return ratio_; }
+  /// The picture itself, with a devicePixelRatio of 1, up to the next drawing.
+  const QImage& pixels() const;
+  double ratio() const;
   /// Moves to a screen with another ratio; what is drawn stays, only less sharp, until it is drawn anew.
   void change_ratio(double ratio);
 
@@ -53,15 +55,13 @@ class ImageSurface : public Surface {
 
  private:
   QImage make_image(double ratio) const;
-  int edge(double logical) const;
   QRect device_box(const SurfaceBox& box) const;
   QPointF centre_of(SurfacePoint pixel) const;
   void upright_line(const Pen& pen, SurfacePoint from, SurfacePoint to);
   void outline_box(const Pen& pen, const SurfaceBox& box);
 
   SurfaceSize size_;
-  double ratio_;
-  QImage image_;  // its own devicePixelRatio is 1: all work on it is in device pixels
+  std::unique_ptr<DrawnImage> image_;
   Show show_;
   QElapsedTimer since_shown_;
 };
