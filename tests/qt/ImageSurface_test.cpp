@@ -226,14 +226,25 @@ TEST(ImageSurface, LeavesOutASnapshotOfAnotherKind) {
   EXPECT_EQ(colors_in(surface.pixels()), std::set<Color>{white});
 }
 
-TEST(ImageSurface, ShowsAtOnceOnlyWhatAScreenCanShow) {
+TEST(ImageSurface, ShowsAtOnceOnlyHowALongDrawingGrows) {
   std::vector<bool> shown;
   ImageSurface surface({10, 10}, 1, [&](bool at_once) { shown.push_back(at_once); });
   surface.refresh();
+  QThread::msleep(35);
   surface.refresh();
-  QThread::msleep(20);
   surface.refresh();
-  EXPECT_EQ(shown, (std::vector{true, false, true}));
+  QThread::msleep(35);
+  surface.refresh();
+  EXPECT_EQ(shown, (std::vector{false, true, false, true}));
+}
+
+TEST(ImageSurface, LeavesAnErasedPictureToTheEventLoop) {
+  std::vector<bool> shown;
+  ImageSurface surface({10, 10}, 1, [&](bool at_once) { shown.push_back(at_once); });
+  QThread::msleep(35);
+  surface.clear(red);
+  surface.refresh();
+  EXPECT_EQ(shown, std::vector{false});
 }
 
 TEST(ImageSurface, TakesPlacesFarOutsideThePicture) {

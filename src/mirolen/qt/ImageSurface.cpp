@@ -15,7 +15,7 @@
 namespace mirolen::qt {
 namespace {
 
-constexpr qint64 frame_of_a_screen = 16;  // ms
+constexpr qint64 between_shows = 30;  // ms
 
 constexpr double largest_edge = 32767;  // the painter's limit, in device pixels
 
@@ -71,7 +71,10 @@ QPointF ImageSurface::centre_of(SurfacePoint pixel) const {
   return {in_reach((pixel.x + 0.5) * ratio()), in_reach((pixel.y + 0.5) * ratio())};
 }
 
-void ImageSurface::clear(Color color) { image_->settled().fill(rgb_of(color)); }
+void ImageSurface::clear(Color color) {
+  image_->settled().fill(rgb_of(color));
+  since_shown_.start();  // an empty picture would only flicker
+}
 
 void ImageSurface::line(const Pen& pen, SurfacePoint from, SurfacePoint to) {
   if (!is_drawn(pen)) return;
@@ -172,7 +175,7 @@ void ImageSurface::restore(const Image& image) {
 
 void ImageSurface::refresh() {
   if (!show_) return;
-  const bool at_once = !since_shown_.isValid() || since_shown_.hasExpired(frame_of_a_screen);
+  const bool at_once = since_shown_.hasExpired(between_shows);
   show_(at_once);
   if (at_once) since_shown_.start();
 }

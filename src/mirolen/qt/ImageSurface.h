@@ -50,7 +50,7 @@ class ImageSurface : public Surface {
   /// A Picture.
   std::shared_ptr<const Image> snapshot() const override;
   void restore(const Image& image) override;
-  /// Shows at once what a screen can show, 60 times a second; in between it leaves that to the event loop.
+  /// Shows at once how a long drawing grows, every 30 ms; in between it leaves that to the event loop.
   void refresh() override;
 
  private:
