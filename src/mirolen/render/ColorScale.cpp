@@ -12,10 +12,11 @@ ScaleEnds scale_ends(const wafer& wafer) {
 }
 
 int band_of(double height, double top, double step) {
-  int band = height >= top - step ? 1 : 10;
-  for (int k = 2; k <= 9; ++k)
-    if (top - k * step <= height && height < top - (k - 1) * step) band = k;
-  return height < top - 9 * step ? 10 : band;
+  if (step < 0) return height >= top - 9 * step ? 1 : 10;
+  // Counted, since a processor guesses branches wrong where the cells of a map have any colours.
+  int band = 1;
+  for (int k = 1; k <= 9; ++k) band += !(height >= top - k * step);
+  return band;
 }
 
 double& band_color(wafer& wafer, int band) {

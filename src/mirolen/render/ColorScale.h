@@ -21,7 +21,8 @@ inline double band_color(const wafer& wafer, int band) {
   return band_color(const_cast<mirolen::wafer&>(wafer), band);
 }
 
-/// The band, 1 to 10, of a height under the top of a scale of ten steps; its lower end belongs to a band.
+/// The band, 1 to 10, of a height under the finite top of a scale of ten steps; its lower end belongs to a
+/// band. A scale of negative steps has the bands 1 and 10 only, and what is no number lies in 10.
 int band_of(double height, double top, double step);
 
 }  // namespace mirolen
