@@ -193,7 +193,7 @@ TEST_F(PropertyDialogTest, ApplyShowsWhatTheControlHolds) {
       {surface.object()});
 }
 
-TEST_F(PropertyDialogTest, OfDifferentControlsHasTheCommonPageOfTheFirst) {
+TEST_F(PropertyDialogTest, OfSeveralControlsShowsTheFirstAndWritesEach) {
   FakeControl other = fake_Plot3D();
   other.put("WaferDiameter", 300.0);
   shown_to(
@@ -204,7 +204,34 @@ TEST_F(PropertyDialogTest, OfDifferentControlsHasTheCommonPageOfTheFirst) {
         dialog.OKbtn.OnClick();
       },
       {other.object(), control.object()});
-  EXPECT_EQ(other["TestDiameter"], automation::Variant(290.0));
+  EXPECT_EQ(other.writes, (Writes{{"WaferDiameter", 300.0},
+                                  {"TestDiameter", 290.0},
+                                  {"WaferStyle", std::int32_t{1}},
+                                  {"HideLegend", false}}));
+  EXPECT_EQ(control.writes, other.writes);
+}
+
+TEST_F(PropertyDialogTest, OfSeveralControlsTellsOnceThatDiametersDoNotFit) {
+  FakeControl other = fake_Plot3D();
+  shown_to(
+      [&](PropertyDialog& dialog) {
+        wafer_page(dialog).txtTestDiameter.Text("250");
+        wafer_page(dialog).nfbox(2).Value(true);
+        dialog.apply.OnClick();
+        EXPECT_EQ(toolkit.messages.size(), 1u);
+      },
+      {other.object(), control.object()});
+  EXPECT_EQ(other.writes, (Writes{{"WaferStyle", std::int32_t{2}}, {"HideLegend", false}}));
+  EXPECT_EQ(control.writes, other.writes);
+}
+
+TEST_F(PropertyDialogTest, APageOfItsOwnWritesTheControlInHandAlone) {
+  FakeControl other = fake_Plot2D();
+  Form owner(toolkit);
+  Plot2DProp page(&owner);
+  page.SelectionChanged({other.object(), control.object()});
+  EXPECT_TRUE(page.ApplyChanges());
+  EXPECT_EQ(other.writes, (Writes{{"Resolution", 5.0}, {"ShowSites", std::int32_t{0}}}));
   EXPECT_EQ(control.writes, Writes{});
 }
 

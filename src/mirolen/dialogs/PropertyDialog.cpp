@@ -123,7 +123,7 @@ void PropertyDialog::offer_apply() {
 bool PropertyDialog::apply_all() {
   bool all_fit = true;
   for (const Shown& shown : shown_) {
-    if (!shown.page->Changed() || shown.page->ApplyChanges()) continue;
+    if (!shown.page->Changed() || shown.page->ApplyToAll()) continue;
     shown.tab->Value(true);
     all_fit = false;
   }

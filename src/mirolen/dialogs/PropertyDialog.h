@@ -22,8 +22,8 @@ const std::vector<PageKind>& page_kinds();
 /// Those that serve every one of the selected controls.
 std::vector<const PageKind*> pages_for(const PropertyPage::Selection& selected);
 
-/// Shows the pages for the selected controls, one at a time. OK and Apply write what has been edited to the
-/// first control; Cancel writes nothing.
+/// Shows the pages for the selected controls, one at a time. OK and Apply write the pages that have been
+/// edited to every control; Cancel writes nothing.
 class PropertyDialog : public Form {
  public:
   /// The controls outlive the dialog.

@@ -34,11 +34,16 @@ void PropertyPage::SelectionChanged(const Selection& selected) {
   set_changed(false);
 }
 
-bool PropertyPage::ApplyChanges() {
-  if (selected_.empty()) return true;
+bool PropertyPage::ApplyChanges() { return apply_to(Controls(selected_).first(selected_.empty() ? 0 : 1)); }
+
+bool PropertyPage::ApplyToAll() { return apply_to(selected_); }
+
+bool PropertyPage::apply_to(Controls controls) {
+  if (controls.empty()) return true;
   bool fits = true;
-  quietly([&] { fits = write_together(selected_.front()); });
-  for (const Step& write : write_) quietly([&] { write(selected_.front()); });
+  quietly([&] { fits = write_together(controls); });
+  for (const automation::Object& control : controls)
+    for (const Step& write : write_) quietly([&] { write(control); });
   set_changed(!fits);
   return fits;
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,7 @@ class PropertyPage : public Frame {
  public:
   /// The selected controls, which outlive the page or its next selection. The first is the one in hand.
   using Selection = std::vector<automation::Object>;
+  using Controls = std::span<const automation::Object>;
 
   /// Fills the fields from the control in hand; the page counts as unchanged then. Without any it is idle.
   void SelectionChanged(const Selection& selected);
@@ -26,6 +28,8 @@ class PropertyPage : public Frame {
   /// it is. @return false where fields do not fit together: the user has been told, the page counts as
   /// changed still.
   bool ApplyChanges();
+  /// The same to every selected control, with one message at most.
+  bool ApplyToAll();
 
   /// Whether something has been edited since the last selection or apply.
   bool Changed() const { return changed_; }
@@ -59,7 +63,7 @@ class PropertyPage : public Frame {
   void shows(TextField& field, const char* property, Check check, double otherwise,
              std::function<void()> then = {});
   /// Writes the fields that the bindings do not, before all others. @return as ApplyChanges.
-  virtual bool write_together(const automation::Object&) { return true; }
+  virtual bool write_together(Controls) { return true; }
   /// Runs a step that may fail: a preview, or a value that a property cannot hold.
   static void quietly(const std::function<void()>& step);
 
@@ -75,6 +79,7 @@ class PropertyPage : public Frame {
   void choice(std::vector<OptionButton*> buttons, int first, const char* property,
               const std::function<void()>& then);
   void set_changed(bool changed);
+  bool apply_to(Controls controls);
 
   Selection selected_;
   std::vector<Step> read_, write_;

@@ -42,15 +42,18 @@ void WaferInfoProp::show_mark() {
   shown_.FlatNotchShow(&FNLabel, FNPic, x0, y0, 0, 0, 90);
 }
 
-bool WaferInfoProp::write_together(const automation::Object& control) {
+bool WaferInfoProp::write_together(Controls controls) {
   const double diameter = number_in(txtWaferDiameter.Text()), test = number_in(txtTestDiameter.Text());
   if (single_precision(diameter) < single_precision(test)) {
     toolkit().message_box(tr("Wafer diamter can not be less than test diameter"), tr("Input Error"),
                           MessageIcon::none);
     return false;
   }
-  let(control, "WaferDiameter", diameter);
-  let(control, "TestDiameter", test);
+  for (const automation::Object& control : controls)
+    quietly([&] {
+      let(control, "WaferDiameter", diameter);
+      let(control, "TestDiameter", test);
+    });
   return true;
 }
 

@@ -22,7 +22,7 @@ class WaferInfoProp : public PropertyPage {
 
  protected:
   /// The diameters, which have to fit each other.
-  bool write_together(const automation::Object& control) override;
+  bool write_together(Controls controls) override;
 
  private:
   void show_mark();
