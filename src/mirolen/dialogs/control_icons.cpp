@@ -89,13 +89,14 @@ void draw_contours(PlotCanvas& canvas) {
 }
 
 void draw_axes(PlotCanvas& canvas) {
+  box(canvas, white, 2, 1, 30, 29);
   line(canvas, black, 2, 1, 2, 29);
   line(canvas, black, 2, 29, 30, 29);
 }
 
 void draw_line_scan(PlotCanvas& canvas) {
-  for (const double y : {8.0, 15.0, 22.0}) line(canvas, grey, 3, y, 30, y);
   draw_axes(canvas);
+  for (const double y : {8.0, 15.0, 22.0}) line(canvas, grey, 3, y, 30, y);
   curve(canvas, red, {{3, 24}, {7, 16}, {11, 12}, {15, 15}, {19, 20}, {23, 14}, {27, 7}, {30, 5}});
 }
 
@@ -148,7 +149,6 @@ void draw_bars(PlotCanvas& canvas) {
 }  // namespace
 
 void draw_control_icon(PlotCanvas& canvas, std::int16_t type) {
-  canvas.BackColor(white);
   canvas.Cls();
   canvas.FillStyle(solid_fill);
   canvas.DrawStyle(solid_line);
