@@ -48,10 +48,6 @@
         <translation>Info...</translation>
     </message>
     <message>
-        <source>Angle</source>
-        <translation>Winkel</translation>
-    </message>
-    <message>
         <source>Angle :</source>
         <translation>Winkel:</translation>
     </message>
@@ -188,6 +184,10 @@
         <translation>Histogramm</translation>
     </message>
     <message>
+        <source>Inclination :</source>
+        <translation>Neigung:</translation>
+    </message>
+    <message>
         <source>Inclination:</source>
         <translation>Neigung:</translation>
     </message>
@@ -306,10 +306,6 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>Bediener:</translation>
     </message>
     <message>
-        <source>Plot</source>
-        <translation>Plot</translation>
-    </message>
-    <message>
         <source>Plot Type:</source>
         <translation>Plotart:</translation>
     </message>
@@ -362,8 +358,16 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>Auflösung: </translation>
     </message>
     <message>
+        <source>Resolution X :</source>
+        <translation>Auflösung X:</translation>
+    </message>
+    <message>
         <source>Resolution X:</source>
         <translation>Auflösung X:</translation>
+    </message>
+    <message>
+        <source>Resolution Y :</source>
+        <translation>Auflösung Y:</translation>
     </message>
     <message>
         <source>Resolution Y:</source>
@@ -374,8 +378,16 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>Rechts</translation>
     </message>
     <message>
+        <source>Rotation :</source>
+        <translation>Drehung:</translation>
+    </message>
+    <message>
         <source>Rotation:</source>
         <translation>Drehung:</translation>
+    </message>
+    <message>
+        <source>Scale :</source>
+        <translation>Maßstab:</translation>
     </message>
     <message>
         <source>Scale Factor </source>
@@ -522,7 +534,7 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>Der Waferdurchmesser darf nicht kleiner als der Messdurchmesser sein</translation>
     </message>
     <message>
-        <source>Wafer rotation:</source>
+        <source>Wafer rotation :</source>
         <translation>Waferdrehung:</translation>
     </message>
     <message>

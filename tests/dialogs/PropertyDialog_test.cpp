@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <set>
 
 #include "fake_control.h"
 #include "mirolen/dialogs/WaferInfoProp.h"
@@ -89,28 +88,18 @@ class PropertyDialogTest : public testing::Test {
   FakeControl control = fake_Plot2D();
 };
 
-TEST_F(PropertyDialogTest, ShowsOnePageAtATime) {
-  shown_to([](PropertyDialog& dialog) {
-    ASSERT_EQ(dialog.pages(), 2);
-    EXPECT_TRUE(dialog.page(0).Visible);
-    EXPECT_FALSE(dialog.page(1).Visible);
-    EXPECT_TRUE(dialog.tab(0).Value());
-    dialog.tab(1).Value(true);
-    EXPECT_FALSE(dialog.page(0).Visible);
-    EXPECT_TRUE(dialog.page(1).Visible);
-    dialog.tab(0).Value(true);
-    EXPECT_TRUE(dialog.page(0).Visible);
-    EXPECT_FALSE(dialog.page(1).Visible);
-    EXPECT_FALSE(dialog.apply.Enabled);
-  });
+TEST_F(PropertyDialogTest, ShowsItsPagesSideBySide) {
+  const PropertyDialog dialog(toolkit, {control.object()});
+  ASSERT_EQ(dialog.pages(), 2);
+  const PropertyPage &first = dialog.page(0), &second = dialog.page(1);
+  EXPECT_GT(second.Left.get(), first.Left + first.Width);
+  EXPECT_EQ(first.Top.get(), second.Top.get());
+  EXPECT_EQ(first.Height.get(), second.Height.get());
 }
 
 TEST_F(PropertyDialogTest, HasNoPageBesideItsOwn) {
   PropertyDialog dialog(toolkit, {control.object()});
-  for (const int index : {-1, 2}) {
-    EXPECT_THROW(dialog.page(index), SubscriptOutOfRange);
-    EXPECT_THROW(dialog.tab(index), SubscriptOutOfRange);
-  }
+  for (const int index : {-1, 2}) EXPECT_THROW(dialog.page(index), SubscriptOutOfRange);
 }
 
 TEST_F(PropertyDialogTest, OffersApplyWhileSomethingIsChanged) {
@@ -157,15 +146,13 @@ TEST_F(PropertyDialogTest, CancelAndClosingChangeNothing) {
   EXPECT_EQ(control.writes, Writes{});
 }
 
-TEST_F(PropertyDialogTest, RefusedDiametersKeepItOpenAtTheirPage) {
+TEST_F(PropertyDialogTest, RefusedDiametersKeepItOpen) {
   shown_to([&](PropertyDialog& dialog) {
     wafer_page(dialog).txtTestDiameter.Text("250");
     wafer_page(dialog).nfbox(2).Value(true);
-    dialog.tab(1).Value(true);
     plot_page(dialog).txtResolution.Text("7");
     dialog.OKbtn.OnClick();
     EXPECT_TRUE(dialog.Visible);
-    EXPECT_TRUE(dialog.page(0).Visible);
     EXPECT_EQ(toolkit.messages.size(), 1u);
     EXPECT_EQ(wafer_page(dialog).txtTestDiameter.Text(), "250");
     EXPECT_TRUE(dialog.apply.Enabled);
@@ -249,7 +236,6 @@ TEST_F(PropertyDialogTest, AnswersTheKeyboard) {
   PropertyDialog dialog(toolkit, {control.object()});
   EXPECT_EQ(dialog.DefaultButton, &dialog.OKbtn);
   EXPECT_EQ(dialog.CancelButton, &dialog.cancel);
-  EXPECT_EQ(dialog.FirstFocus, &dialog.tab(0));
 }
 
 /// One control of each class that has a page of its own.
@@ -265,16 +251,11 @@ std::vector<FakeControl> all_fakes() {
   return fakes;
 }
 
-TEST_F(PropertyDialogTest, HasDifferentAccessKeysFromItsCaptions) {
+TEST_F(PropertyDialogTest, FitsASmallScreen) {
   for (FakeControl& fake : all_fakes()) {
-    PropertyDialog dialog(toolkit, {fake.object()});
-    std::set<char> keys{dialog.apply.AccessKey.get()};
-    EXPECT_NE(dialog.apply.Caption.get().find(dialog.apply.AccessKey), std::string::npos);
-    for (int i = 0; i < dialog.pages(); ++i) {
-      const char key = dialog.tab(i).AccessKey;
-      EXPECT_NE(dialog.tab(i).Caption.get().find(key), std::string::npos);
-      EXPECT_TRUE(keys.insert(key).second) << key;
-    }
+    const PropertyDialog dialog(toolkit, {fake.object()});
+    EXPECT_LE(dialog.Width.get(), 640 * 15);
+    EXPECT_LE(dialog.Height.get(), 300 * 15);
   }
 }
 
@@ -288,8 +269,7 @@ void expect_inside_and_apart(const Widget& container) {
     EXPECT_LE(one->Left + one->Width, container.Width);
     EXPECT_LE(one->Top + one->Height, container.Height);
     for (const Widget* other : children) {
-      const bool pages = dynamic_cast<const PropertyPage*>(one) && dynamic_cast<const PropertyPage*>(other);
-      EXPECT_TRUE(one == other || pages || apart(*one, *other));
+      EXPECT_TRUE(one == other || apart(*one, *other));
     }
     expect_inside_and_apart(*one);
   }

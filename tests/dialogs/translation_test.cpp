@@ -109,7 +109,6 @@ TEST(TranslatedPages, HaveNoTextInEnglish) {
   const TranslatorInForce loud(shouted);
   for (const PageKind& kind : page_kinds()) {
     Form owner(toolkit);
-    const OptionButton tab(&owner, kind.tab);
     const auto page = kind.make(&owner);
     expect_all_shouted(owner);
   }

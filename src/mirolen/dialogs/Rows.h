@@ -5,13 +5,14 @@
 namespace mirolen {
 
 /// Lays the children of a group out in rows from the top down, labels at the left and their fields in one
-/// column, and makes the group as high as they need.
+/// column, and makes the group as wide and high as they need. A group may have several such blocks of rows
+/// side by side.
 class Rows {
  public:
   static constexpr double gap = 120, label_width = 1560, field_width = 960;
   static constexpr double group_width = gap + label_width + field_width + gap;
 
-  explicit Rows(Frame& group, double width = group_width);
+  explicit Rows(Frame& group, double width = group_width, double left = 0);
 
   void add(Label& label, TextField& field);
   /// A widget over the whole width.
@@ -27,7 +28,7 @@ class Rows {
   /// A group of them within this one.
   template <class Options>
   void add_group(Frame& group, const Options& options) {
-    Rows(group, group_.Width - 2 * gap).add_options(options);
+    Rows(group, width_ - 2 * gap).add_options(options);
     add(group, group.Height);
   }
 
@@ -37,7 +38,7 @@ class Rows {
   void grow(double height);
 
   Frame& group_;
-  double top_;
+  double width_, left_, top_;
 };
 
 }  // namespace mirolen

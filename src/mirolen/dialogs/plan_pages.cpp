@@ -39,8 +39,9 @@ Plot2DCProp::Plot2DCProp(Widget* container) : PropertyPage(container, "2D Contou
   rows.add(lblInterval, txtInterval);
   rows.add(chkPercent, Rows::option_height);
   rows.add_group(frmquali, OptQuali);
-  rows.add_group(frmmark, OptExcon);
-  rows.add_group(frmcol, Optcol);
+  Rows beside(*this, Rows::group_width, Rows::group_width);
+  beside.add_group(frmmark, OptExcon);
+  beside.add_group(frmcol, Optcol);
   number(txtInterval, "Interval", 1);
   tick(chkPercent, "IntervalInPercent", in_percent, in_unit);
   choice(Optcol, "PlotColored");

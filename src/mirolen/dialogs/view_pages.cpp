@@ -10,14 +10,15 @@ constexpr double preview_side = 1500;
 
 }  // namespace
 
-ViewPage::ViewPage(Widget* container, const char* text) : PropertyPage(container, text), rows(*this) {
+ViewPage::ViewPage(Widget* container, const char* text)
+    : PropertyPage(container, text), rows(*this), beside(*this, Rows::group_width, Rows::group_width) {
   rows.add(lblXResolution, txtXResolution);
   rows.add(lblYResolution, txtYResolution);
   rows.add(lblPlotScale, txtPlotScale);
   rows.add(lblGridInclination, txtGridInclination);
   rows.add(lblGridRotation, txtGridRotation);
   rows.add(lblWaferRotation, txtWaferRotation);
-  rows.add_picture(Plot, preview_side);
+  beside.add_picture(Plot, preview_side);
 
   number(txtXResolution, "XResolution", 5);
   number(txtYResolution, "YResolution", 5);
@@ -33,7 +34,7 @@ void ViewPage::show_grid() {
 
 Plot3DProp::Plot3DProp(Widget* container) : ViewPage(container, "3D Plot") {
   name(optPlot, {"Polygons", "Hidden wire frame", "Wire frame"});
-  rows.add_group(frmplot, optPlot);
+  beside.add_group(frmplot, optPlot);
   choice(optPlot, "PlotType");
 }
 

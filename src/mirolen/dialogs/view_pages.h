@@ -8,24 +8,24 @@ namespace mirolen {
 /// What the pages of the surfaces share: steps, height and angles, with a preview of the grid.
 class ViewPage : public PropertyPage {
  public:
-  Label lblXResolution{this, "Resolution X:"};
+  Label lblXResolution{this, "Resolution X :"};
   TextField txtXResolution{this};
-  Label lblYResolution{this, "Resolution Y:"};
+  Label lblYResolution{this, "Resolution Y :"};
   TextField txtYResolution{this};
-  Label lblPlotScale{this, "Scale:"};
+  Label lblPlotScale{this, "Scale :"};
   TextField txtPlotScale{this};
-  Label lblGridInclination{this, "Inclination:"};
+  Label lblGridInclination{this, "Inclination :"};
   TextField txtGridInclination{this};
-  Label lblGridRotation{this, "Rotation:"};
+  Label lblGridRotation{this, "Rotation :"};
   TextField txtGridRotation{this};
-  Label lblWaferRotation{this, "Wafer rotation:"};
+  Label lblWaferRotation{this, "Wafer rotation :"};
   TextField txtWaferRotation{this};
   PictureBox Plot{this};
 
  protected:
   ViewPage(Widget* container, const char* text);
 
-  Rows rows;
+  Rows rows, beside;
 
  private:
   void show_grid();
