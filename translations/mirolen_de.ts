@@ -4,8 +4,20 @@
 <context>
     <name>mirolen</name>
     <message>
+        <source> FW = </source>
+        <translation> Wert = </translation>
+    </message>
+    <message>
         <source> and less than </source>
         <translation> und weniger als </translation>
+    </message>
+    <message>
+        <source> is a directory</source>
+        <translation> ist ein Verzeichnis</translation>
+    </message>
+    <message>
+        <source> must be finite</source>
+        <translation> muss endlich sein</translation>
     </message>
     <message>
         <source>, more than </source>
@@ -141,7 +153,7 @@
     </message>
     <message>
         <source>FAB Name:</source>
-        <translation>Werk:</translation>
+        <translation>Fab:</translation>
     </message>
     <message>
         <source>Filename:</source>
@@ -161,11 +173,11 @@
     </message>
     <message>
         <source>Hidden Wire Frame</source>
-        <translation>Verdecktes Gitter</translation>
+        <translation>Drahtgitter, verdeckt</translation>
     </message>
     <message>
         <source>Hidden wire frame</source>
-        <translation>Verdecktes Gitter</translation>
+        <translation>Drahtgitter, verdeckt</translation>
     </message>
     <message>
         <source>Hide</source>
@@ -343,7 +355,7 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
     </message>
     <message>
         <source>Range:</source>
-        <translation>Spanne:</translation>
+        <translation>Spannweite:</translation>
     </message>
     <message>
         <source>Resolution </source>
@@ -566,8 +578,32 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>Die Auflösung in Y </translation>
     </message>
     <message>
+        <source>a colour</source>
+        <translation>eine Farbe</translation>
+    </message>
+    <message>
+        <source>a number to be shown</source>
+        <translation>eine Zahl zur Anzeige</translation>
+    </message>
+    <message>
+        <source>a picture cannot be kept as PNG</source>
+        <translation>das Bild ist nicht als PNG zu speichern</translation>
+    </message>
+    <message>
+        <source>a place or size on a canvas</source>
+        <translation>ein Ort oder Maß auf einer Zeichenfläche</translation>
+    </message>
+    <message>
+        <source>a site's number</source>
+        <translation>jede Zahl eines Messpunkts</translation>
+    </message>
+    <message>
         <source>can not be empty</source>
         <translation>darf nicht leer sein</translation>
+    </message>
+    <message>
+        <source>cannot open </source>
+        <translation>nicht zu öffnen: </translation>
     </message>
     <message>
         <source>classes</source>
@@ -576,6 +612,10 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
     <message>
         <source>degrees, 0 to 360</source>
         <translation>Grad, 0 bis 360</translation>
+    </message>
+    <message>
+        <source>division by zero</source>
+        <translation>Division durch null</translation>
     </message>
     <message>
         <source>height of the surface</source>
@@ -598,12 +638,100 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>muss eine Zahl sein</translation>
     </message>
     <message>
+        <source>no room for a single character</source>
+        <translation>kein Platz für ein einziges Zeichen</translation>
+    </message>
+    <message>
+        <source>no settings</source>
+        <translation>keine Einstellungen</translation>
+    </message>
+    <message>
+        <source>no settings, %1 at byte %2</source>
+        <translation>keine Einstellungen, %1 bei Byte %2</translation>
+    </message>
+    <message>
         <source>not valid</source>
         <translation>ist ungültig</translation>
     </message>
     <message>
+        <source>out of memory</source>
+        <translation>nicht genug Speicher</translation>
+    </message>
+    <message>
+        <source>overflow</source>
+        <translation>Überlauf</translation>
+    </message>
+    <message>
+        <source>settings keep no </source>
+        <translation>Einstellungen behalten nichts vom Typ </translation>
+    </message>
+    <message>
+        <source>settings keep no objects but pictures</source>
+        <translation>Einstellungen behalten keine Objekte außer Bildern</translation>
+    </message>
+    <message>
+        <source>square root of a negative number</source>
+        <translation>Wurzel aus einer negativen Zahl</translation>
+    </message>
+    <message>
         <source>standard deviations</source>
         <translation>Standardabweichungen</translation>
+    </message>
+    <message>
+        <source>subscript out of range</source>
+        <translation>Index außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>the canvas failed in </source>
+        <translation>die Zeichenfläche versagt: </translation>
+    </message>
+    <message>
+        <source>the end of the print job</source>
+        <translation>Ende des Druckauftrags</translation>
+    </message>
+    <message>
+        <source>the making of a picture</source>
+        <translation>Anlegen eines Bildes</translation>
+    </message>
+    <message>
+        <source>the number of sites</source>
+        <translation>die Zahl der Messpunkte</translation>
+    </message>
+    <message>
+        <source>the print job has ended</source>
+        <translation>der Druckauftrag ist beendet</translation>
+    </message>
+    <message>
+        <source>the printing</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>the start of a page</source>
+        <translation>Beginn einer Seite</translation>
+    </message>
+    <message>
+        <source>the start of the print job</source>
+        <translation>Beginn des Druckauftrags</translation>
+    </message>
+    <message>
+        <source>the start of the print job: the system has no printer</source>
+        <translation>Beginn des Druckauftrags: das System hat keinen Drucker</translation>
+    </message>
+    <message>
+        <source>the value does not fit its integer type</source>
+        <translation>der Wert ist zu groß für seinen ganzzahligen Typ</translation>
+    </message>
+    <message>
+        <source>there is no picture to extend</source>
+        <translation>es gibt kein Bild zum Erweitern</translation>
+    </message>
+    <message>
+        <source>there is no wafer to write of</source>
+        <translation>es gibt keinen Wafer zum Beschriften</translation>
+    </message>
+    <message>
+        <source>there is nothing to print on</source>
+        <translation>es gibt kein Ziel für den Druck</translation>
     </message>
     <message>
         <source>unit of the interval</source>

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QTranslator>
+#include <cmath>
+#include <set>
 
 #include "mirolen/controls/descriptions.h"
 #include "mirolen/core/translation.h"
@@ -18,10 +20,13 @@
 #include "mirolen/dialogs/frmPlotOpt3ds.h"
 #include "mirolen/print/PrintWafer.h"
 #include "mirolen/qt/PrintJob.h"
+#include "mirolen/qt/SettingsBag.h"
 #include "mirolen/qt/StateView.h"
+#include "mirolen/qt/captions.h"
 #include "mirolen/qt/translate.h"
 #include "mirolen/widgets/Headless.h"
 #include "qt/form_user.h"
+#include "qt/in_german.h"
 #include "qt/nine_faces.h"
 #include "qt/page_tools.h"
 #include "qt/qt_support.h"
@@ -32,15 +37,6 @@ namespace {
 using namespace qt_test;
 using qt::install_translations;
 using qt::view_of;
-
-/// The library in German as long as this lives.
-struct InGerman {
-  InGerman() { EXPECT_TRUE(install_translations(QLocale("de"))); }
-  ~InGerman() {
-    install_translations(QLocale(QLocale::English));
-    set_translator({});
-  }
-};
 
 /// All captions below a widget, and its own.
 QStringList captions_of(const Widget& root) {
@@ -185,6 +181,29 @@ TYPED_TEST(FormInGerman, CutsNoText) {
   });
 }
 
+/// The access keys in force below a widget, in order.
+std::vector<QString> access_keys(const Widget& root) {
+  std::vector<QString> keys;
+  const auto add = [&](const auto* widget) {
+    if (!widget || widget->AccessKey == 0) return;
+    const QString text = qt::with_mnemonic(qt::text_of(widget->Caption.get()), widget->AccessKey);
+    const QKeySequence key = QKeySequence::mnemonic(text);
+    if (!key.isEmpty()) keys.push_back(key.toString());
+  };
+  add(dynamic_cast<const Label*>(&root));
+  add(dynamic_cast<const Button*>(&root));
+  add(dynamic_cast<const OptionButton*>(&root));
+  add(dynamic_cast<const CheckBox*>(&root));
+  for (const Widget* child : root.children())
+    for (const QString& key : access_keys(*child)) keys.push_back(key);
+  return keys;
+}
+
+TYPED_TEST(FormInGerman, HasNoAccessKeyTwice) {
+  const std::vector<QString> keys = access_keys(this->form);
+  EXPECT_EQ(std::set<QString>(keys.begin(), keys.end()).size(), keys.size());
+}
+
 template <class Control>
 class FormOfPagesInGerman : private InGerman, public testing::Test {
  protected:
@@ -209,6 +228,46 @@ TYPED_TEST(FormOfPagesInGerman, CutsNoText) {
     EXPECT_EQ(cut_texts(*view_of(dialog)), Texts());
     EXPECT_EQ(qt::text_of(dialog.apply.Caption.get()), "Übernehmen");
   });
+}
+
+// ---- What goes wrong ----
+
+/// What a step that fails says.
+std::string reason_of(const std::function<void()>& step) {
+  try {
+    step();
+  } catch (const RunTimeError& error) {
+    return error.what();
+  }
+  return "";
+}
+
+TEST(ErrorsInGerman, SayWhatWentWrong) {
+  const InGerman german;
+  EXPECT_EQ(reason_of([] { divide(1, 0); }), "Division durch null");
+  EXPECT_EQ(reason_of([] { to_int16(40000); }), "der Wert ist zu groß für seinen ganzzahligen Typ");
+  EXPECT_EQ(reason_of([] { throw CanvasError(tr("the printing")); }), "die Zeichenfläche versagt: Drucken");
+  wafer data;
+  data.SetNop(1);
+  EXPECT_EQ(reason_of([&] { data.SetGridValueD(1, NAN, 0, 0); }),
+            "jede Zahl eines Messpunkts muss endlich sein");
+  const TemporaryFile torn("{", "settings.json");
+  EXPECT_TRUE(QString::fromStdString(reason_of([&] {
+                qt::SettingsBag bag(torn.path);
+              })).contains("keine Einstellungen"));
+}
+
+TEST(LineScanInGerman, NamesTheValueOfASite) {
+  const InGerman german;
+  qt::LineScan face;
+  face.show();
+  face.setShowSites(true);
+  load_slope(face);
+  face.Plot();
+  QStringList tips;
+  for (const QWidget* view : face.findChildren<QWidget*>())
+    if (!view->toolTip().isEmpty()) tips << view->toolTip();
+  EXPECT_TRUE(tips.join('|').contains(" Wert = ")) << tips.join('|').toStdString();
 }
 
 // ---- Numbers ----
@@ -261,9 +320,9 @@ TEST(ReportInGerman, HasRoomForItsLabels) {
   job->finish();
   const QString text = text_of_page(file.path, 1);
   for (const char* label :
-       {"Statistik", "Mittelwert:",  "Maximum:",    "Minimum:", "Std.-Abw.:", "Spanne:",
+       {"Statistik", "Mittelwert:",  "Maximum:",    "Minimum:", "Std.-Abw.:", "Spannweite:",
         "Max/Min:",  "Einheit:",     "Größe",       "Wafer-Ø:", "Mess-Ø:",    "Messpunkte:",
-        "Form:",     "Waferangaben", "Bediener:",   "Werk:",    "Anlage:",    "Wafer-Nr.:",
+        "Form:",     "Waferangaben", "Bediener:",   "Fab:",     "Anlage:",    "Wafer-Nr.:",
         "Los:",      "Messgerät:",   "Besonderes:", "Legende",  "Kerbe",      "Abflachung"})
     EXPECT_TRUE(text.contains(label)) << label << " in " << text.toStdString();
 }

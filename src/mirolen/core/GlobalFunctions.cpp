@@ -7,6 +7,8 @@
 #include <fstream>
 #include <vector>
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen::GlobalFunctions {
 namespace {
 
@@ -45,9 +47,9 @@ double from_little_endian(const char* bytes) {
 std::vector<double> read_numbers(const std::string& datafile, std::size_t count) {
   const std::filesystem::path path(std::u8string(datafile.begin(), datafile.end()));
   std::error_code unknown;
-  if (std::filesystem::is_directory(path, unknown)) throw FileError(datafile + " is a directory");
+  if (std::filesystem::is_directory(path, unknown)) throw FileError(datafile + tr(" is a directory"));
   std::ifstream file(path, std::ios::binary);
-  if (!file) throw FileError("cannot open " + datafile);
+  if (!file) throw FileError(tr("cannot open ") + datafile);
 
   std::vector<char> bytes(count * sizeof(double));
   file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));

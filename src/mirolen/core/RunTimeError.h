@@ -3,9 +3,12 @@
 #include <stdexcept>
 #include <string>
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 
-/// Root of every error that the heart raises. Catch this one to catch them all; what() says what went wrong.
+/// Root of every error that the heart raises. Catch this one to catch them all; what() says what went
+/// wrong, in the language in force.
 class RunTimeError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
@@ -17,12 +20,12 @@ class OverflowError : public RunTimeError {
 
 class DivisionByZero : public RunTimeError {
  public:
-  DivisionByZero() : RunTimeError("division by zero") {}
+  DivisionByZero() : RunTimeError(tr("division by zero")) {}
 };
 
 class SubscriptOutOfRange : public RunTimeError {
  public:
-  SubscriptOutOfRange() : RunTimeError("subscript out of range") {}
+  SubscriptOutOfRange() : RunTimeError(tr("subscript out of range")) {}
 };
 
 /// An argument outside the domain of the operation: the root of a negative number, a value that is not
@@ -33,7 +36,7 @@ class InvalidArgument : public RunTimeError {
 
 class OutOfMemory : public RunTimeError {
  public:
-  OutOfMemory() : RunTimeError("out of memory") {}
+  OutOfMemory() : RunTimeError(tr("out of memory")) {}
 };
 
 /// A file that cannot be opened, read or written.
@@ -45,7 +48,7 @@ class FileError : public RunTimeError {
 class CanvasError : public RunTimeError {
  public:
   explicit CanvasError(std::string failed_member)
-      : RunTimeError("the canvas failed in " + failed_member), member(std::move(failed_member)) {}
+      : RunTimeError(tr("the canvas failed in ") + failed_member), member(std::move(failed_member)) {}
 
   const std::string member;
 };

@@ -1,5 +1,7 @@
 #include "mirolen/core/numbers.h"
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 
 double round_half_even(double value) {
@@ -11,7 +13,7 @@ double round_half_even(double value) {
 }
 
 Color to_color(double value) {
-  refuse_unless_finite({value}, "a colour");
+  refuse_unless_finite({value}, translatable("a colour"));
   constexpr double modulus = 4294967296.0;
   const double rest = std::fmod(round_half_even(value), modulus);
   return static_cast<Color>(rest < 0 ? rest + modulus : rest);

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "mirolen/core/RunTimeError.h"
+#include "mirolen/core/translation.h"
 
 namespace mirolen {
 
@@ -32,7 +33,7 @@ Integer to_integer(double value) {
     const std::int64_t whole = nearest_whole(value);
     if (whole >= Limits::min() && whole <= Limits::max()) return static_cast<Integer>(whole);
   }
-  throw OverflowError("the value does not fit its integer type");
+  throw OverflowError(tr("the value does not fit its integer type"));
 }
 inline std::int16_t to_int16(double value) { return to_integer<std::int16_t>(value); }
 inline std::int32_t to_int32(double value) { return to_integer<std::int32_t>(value); }
@@ -46,12 +47,12 @@ inline double Int(double value) { return std::floor(value); }
 /// @throws InvalidArgument, naming what, for a number that is infinite or NaN.
 inline void refuse_unless_finite(std::initializer_list<double> numbers, const char* what) {
   for (const double number : numbers)
-    if (!std::isfinite(number)) throw InvalidArgument(std::string(what) + " must be finite");
+    if (!std::isfinite(number)) throw InvalidArgument(tr(what) + tr(" must be finite"));
 }
 
 /// The value of an arithmetic expression. @throws OverflowError if it became infinite or NaN on the way.
 inline double checked(double value) {
-  if (!std::isfinite(value)) throw OverflowError("overflow");
+  if (!std::isfinite(value)) throw OverflowError(tr("overflow"));
   return value;
 }
 
@@ -63,7 +64,7 @@ inline double divide(double a, double b) {
 
 /// @throws InvalidArgument for a negative number.
 inline double square_root(double value) {
-  if (value < 0) throw InvalidArgument("square root of a negative number");
+  if (value < 0) throw InvalidArgument(tr("square root of a negative number"));
   return std::sqrt(checked(value));
 }
 

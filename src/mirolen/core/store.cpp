@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/core/wafer.h"
 
 namespace mirolen {
@@ -22,7 +23,7 @@ void wafer::reset() {
 }
 
 void wafer::SetNop(double Number) {
-  refuse_unless_finite({Number}, "the number of sites");
+  refuse_unless_finite({Number}, translatable("the number of sites"));
   if (Number > largest_store) throw OutOfMemory();
   const std::int32_t n = to_int32(Number);
   if (n < 0) throw SubscriptOutOfRange();
@@ -57,7 +58,7 @@ double wafer::GetGridValue(std::int16_t ind, Array& gr) const {
 
 void wafer::store_site(std::int32_t site, double x, double y, double Z) {
   const std::size_t at = place_of(site);
-  refuse_unless_finite({x, y, Z}, "a site's number");
+  refuse_unless_finite({x, y, Z}, translatable("a site's number"));
 
   const bool zero = Z == 0 || (Z < nearly_zero && Z > -nearly_zero);
   if (zero) FW_NUll = true;

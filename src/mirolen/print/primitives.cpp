@@ -1,4 +1,5 @@
 #include "mirolen/core/palette.h"
+#include "mirolen/core/translation.h"
 #include "mirolen/print/PrintWafer.h"
 #include "mirolen/print/frame.h"
 #include "mirolen/print/target.h"
@@ -7,7 +8,7 @@
 
 namespace mirolen {
 PlotCanvas& print::canvas_of(const std::shared_ptr<PlotCanvas>& target) {
-  if (!target) throw InvalidArgument("there is nothing to print on");
+  if (!target) throw InvalidArgument(tr("there is nothing to print on"));
   return *target;
 }
 

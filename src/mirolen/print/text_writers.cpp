@@ -1,6 +1,7 @@
 #include "mirolen/print/text_writers.h"
 
 #include "mirolen/core/palette.h"
+#include "mirolen/core/translation.h"
 #include "mirolen/render/StringFormat.h"
 
 namespace mirolen::print {
@@ -9,7 +10,7 @@ namespace {
 bool continues_a_character(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
 
 void refuse_empty(const std::string& text) {
-  if (text.empty()) throw InvalidArgument("no room for a single character");
+  if (text.empty()) throw InvalidArgument(tr("no room for a single character"));
 }
 
 }  // namespace

@@ -35,12 +35,12 @@ void flip_underline(PictureBox& picture) {
 }  // namespace
 
 PictureBox& viewbitmap::picture() const {
-  if (!picture_) throw InvalidArgument("there is no picture to extend");
+  if (!picture_) throw InvalidArgument(tr("there is no picture to extend"));
   return *picture_;
 }
 
 const wafer& viewbitmap::data() const {
-  if (!wafer_) throw InvalidArgument("there is no wafer to write of");
+  if (!wafer_) throw InvalidArgument(tr("there is no wafer to write of"));
   return *wafer_;
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/qt/DrawnImage.h"
 #include "mirolen/qt/Picture.h"
 #include "mirolen/qt/painting.h"
@@ -34,10 +35,11 @@ ImageSurface::~ImageSurface() = default;
 
 QImage ImageSurface::make_image(double ratio) const {
   const double width = std::floor(size_.width * ratio + 0.5), height = std::floor(size_.height * ratio + 0.5);
-  if (!(width <= largest_edge && height <= largest_edge)) throw CanvasError("the making of a picture");
+  if (!(width <= largest_edge && height <= largest_edge))
+    throw CanvasError(mirolen::tr("the making of a picture"));
   QImage image(std::max(1, static_cast<int>(width)), std::max(1, static_cast<int>(height)),
                QImage::Format_RGB32);
-  if (image.isNull()) throw CanvasError("the making of a picture");
+  if (image.isNull()) throw CanvasError(mirolen::tr("the making of a picture"));
   return image;
 }
 

@@ -8,6 +8,7 @@
 #include <QSaveFile>
 #include <QSvgGenerator>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/qt/PageSurface.h"
 #include "mirolen/qt/translate.h"
 
@@ -45,7 +46,7 @@ class PrinterDevice : public PrintJob::Device {
   bool next_page() override { return printer_->newPage(); }
   void cancel() override { printer_->abort(); }
   void keep() override {
-    if (printer_->printerState() == QPrinter::Error) throw CanvasError("the printing");
+    if (printer_->printerState() == QPrinter::Error) throw CanvasError(mirolen::tr("the printing"));
   }
   void drop() override {}
 
@@ -64,7 +65,7 @@ class DefaultPrinterDevice : public PrinterDevice {
   void open() override {
     if (own_) return;
     if (QPrinterInfo::defaultPrinter().isNull())
-      throw CanvasError("the start of the print job: the system has no printer");
+      throw CanvasError(mirolen::tr("the start of the print job: the system has no printer"));
     own_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer_ = own_.get();
   }
@@ -82,7 +83,7 @@ class FileDevice : public PrintJob::Device {
     content_.open(QIODevice::WriteOnly);
   }
   void open() override {
-    if (!file_.isOpen()) fail(QStringLiteral("the print job has ended"));
+    if (!file_.isOpen()) fail(text_of(mirolen::tr("the print job has ended")));
   }
   void cancel() override {}
   void keep() override {
@@ -179,7 +180,8 @@ QPageLayout PrintJob::a4() {
 void PrintJob::start() const {
   device_->open();
   auto page = std::make_unique<Page>();
-  if (!page->painter.begin(&device_->paint_device())) throw CanvasError("the start of the print job");
+  if (!page->painter.begin(&device_->paint_device()))
+    throw CanvasError(mirolen::tr("the start of the print job"));
   page->surface.emplace(page->painter, device_->paint_device());
   page_ = std::move(page);
 }
@@ -192,7 +194,7 @@ mirolen::Surface* PrintJob::device() const {
 void PrintJob::new_page() {
   device();  // starts the job
   page_->surface->end_page();
-  if (!device_->next_page()) throw CanvasError("the start of a page");
+  if (!device_->next_page()) throw CanvasError(mirolen::tr("the start of a page"));
   CurrentX(0);
   CurrentY(0);
 }
@@ -204,7 +206,7 @@ void PrintJob::finish() {
   page_.reset();
   if (!painted) {
     device_->drop();
-    throw CanvasError("the end of the print job");
+    throw CanvasError(mirolen::tr("the end of the print job"));
   }
   device_->keep();
 }

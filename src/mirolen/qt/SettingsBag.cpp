@@ -7,7 +7,9 @@
 #include <charconv>
 #include <optional>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/qt/Picture.h"
+#include "mirolen/qt/translate.h"
 
 namespace mirolen::qt {
 namespace {
@@ -50,11 +52,11 @@ QJsonValue png_of(const ObjectReference& object) {
   const auto* picture = object.type == typeid(Image)
                             ? dynamic_cast<const Picture*>(static_cast<Image*>(object.pointer.get()))
                             : nullptr;
-  if (!picture) throw InvalidArgument("settings keep no objects but pictures");
+  if (!picture) throw InvalidArgument(mirolen::tr("settings keep no objects but pictures"));
   QByteArray png;
   QBuffer buffer(&png);
   if (!buffer.open(QIODevice::WriteOnly) || !picture->image().save(&buffer, "PNG"))
-    throw InvalidArgument("a picture cannot be kept as PNG");
+    throw InvalidArgument(mirolen::tr("a picture cannot be kept as PNG"));
   return QString::fromLatin1(png.toBase64());
 }
 
@@ -81,7 +83,7 @@ QJsonValue json_of(const Variant& value) {
     case Type::object:
       return png_of(std::get<ObjectReference>(value));
     default:
-      throw InvalidArgument(std::string("settings keep no ") + name_of(automation::type_of(value)));
+      throw InvalidArgument(mirolen::tr("settings keep no ") + name_of(automation::type_of(value)));
   }
 }
 
@@ -107,8 +109,9 @@ SettingsBag::SettingsBag(QString file) : file_(std::move(file)) {
   QJsonParseError error;
   const QJsonDocument document = QJsonDocument::fromJson(stored.readAll(), &error);
   if (error.error != QJsonParseError::NoError)
-    fail(file_, QStringLiteral("no settings, %1 at byte %2").arg(error.errorString()).arg(error.offset));
-  if (!document.isObject()) fail(file_, QStringLiteral("no settings"));
+    fail(file_,
+         text_of(mirolen::tr("no settings, %1 at byte %2")).arg(error.errorString()).arg(error.offset));
+  if (!document.isObject()) fail(file_, text_of(mirolen::tr("no settings")));
   values_ = document.object();
 }
 

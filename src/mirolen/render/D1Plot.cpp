@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "mirolen/core/translation.h"
 #include "mirolen/core/wafer.h"
 #include "mirolen/render/Companions.h"
 #include "mirolen/render/PlotCanvas.h"
@@ -131,7 +132,7 @@ void wafer::D1Plot_MarkSites(PlotCanvas& Plot, SiteMarks* picgrid, std::int16_t 
       if (n > picgrid->count()) picgrid->add();
       using StringFormat::plain_text;
       picgrid->show(n - 1, X - half_mark, Y - half_mark,
-                    "X = " + plain_text(x) + "  Y= " + plain_text(y) + " FW = " + plain_text(z));
+                    "X = " + plain_text(x) + "  Y= " + plain_text(y) + tr(" FW = ") + plain_text(z));
       ++n;
     }
   }

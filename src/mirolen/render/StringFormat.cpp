@@ -9,6 +9,7 @@
 
 #include "mirolen/core/DecimalSeparator.h"
 #include "mirolen/core/numbers.h"
+#include "mirolen/core/translation.h"
 
 namespace mirolen::StringFormat {
 namespace {
@@ -22,7 +23,7 @@ struct Decimal {
   int exponent = 0;
 
   explicit Decimal(double value) : negative(std::signbit(value)) {
-    refuse_unless_finite({value}, "a number to be shown");
+    refuse_unless_finite({value}, translatable("a number to be shown"));
     // More digits than are kept, so that a tie is seen as one.
     std::array<char, 48> text{};
     std::snprintf(text.data(), text.size(), "%.*e", 2 * significant_digits, std::abs(value));

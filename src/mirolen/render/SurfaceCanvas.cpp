@@ -3,6 +3,8 @@
 #include <array>
 #include <cmath>
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 namespace {
 
@@ -26,7 +28,7 @@ double twips_of(std::int16_t mode) {
   }
 }
 
-constexpr const char* place = "a place or size on a canvas";
+constexpr const char* place = translatable("a place or size on a canvas");
 
 Pen::Style pen_style(std::int16_t draw_style) {
   using enum Pen::Style;
