@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Checks that the texts that users read and the catalogues in translations/ are the same: every text in src/ that is
-marked with tr or translatable, or told to a widget as its caption, has one entry, every entry is used, and every
-translation is there and begins and ends with the blanks of its source."""
+marked with tr or translatable, or told to a widget as its caption, and every text in examples/ that is marked with tr
+or text has one entry in its context, every entry is used, and every translation is there, has the places of its source
+and begins and ends with its blanks."""
 
 import pathlib
 import re
@@ -17,6 +18,8 @@ CAPTION = re.compile(
     rf"(?:\s+\w+)?\s*[({{]\s*[\w&*.]+\s*,\s*({LITERALS})\s*[)}}]")
 # The captions of a set of options: name(options, {"one", "two"}) or name(options, {{"one", 'o'}, {"two", 't'}}).
 NAMES = re.compile(rf"\bname\(\s*\w+\s*,\s*\{{(.*?)\}}\s*\)\s*;", re.DOTALL)
+IN_EXAMPLES = re.compile(rf"\b(?:tr|text)\(\s*({LITERALS})\s*\)")
+PLACE = re.compile(r"%\d")
 COMMENT = re.compile(rf"({LITERAL})|//[^\n]*|/\*.*?\*/", re.DOTALL)
 ESCAPES = {"n": "\n", "t": "\t"}
 
@@ -26,21 +29,28 @@ def text_of(literals: str) -> str:
     return re.sub(r"\\(.)", lambda escape: ESCAPES.get(escape[1], escape[1]), whole)
 
 
-def texts_in(source: str):
-    code = COMMENT.sub(lambda found: found[1] or " ", source)
+def texts_in(code: str):
     for pattern in (MARKED, CAPTION):
         yield from (text_of(found[1]) for found in pattern.finditer(code))
     for found in NAMES.finditer(code):
         yield from (text_of(literal) for literal in re.findall(LITERAL, found[1]))
 
 
-def texts_of(root: pathlib.Path) -> dict:
-    """Each text and the first file that has it."""
-    texts = {}
+def sources_in(root: pathlib.Path):
     for path in sorted(root.rglob("*")):
         if path.suffix in {".h", ".cpp"}:
-            for text in texts_in(path.read_text(encoding="utf-8")):
-                texts.setdefault(text, path)
+            yield path, COMMENT.sub(lambda found: found[1] or " ", path.read_text(encoding="utf-8"))
+
+
+def texts_of(root: pathlib.Path) -> dict:
+    """The first file of each context and text."""
+    texts = {}
+    for path, code in sources_in(root / "src"):
+        for text in texts_in(code):
+            texts.setdefault(("mirolen", text), path)
+    for path, code in sources_in(root / "examples"):
+        for found in IN_EXAMPLES.finditer(code):
+            texts.setdefault(("examples", text_of(found[1])), path)
     return texts
 
 
@@ -51,28 +61,29 @@ def edges(text: str):
 
 
 def faults_of(catalogue: pathlib.Path, texts: dict):
-    entries = {}
-    contexts = xml.parse(catalogue).getroot().findall("context")
-    if [context.findtext("name") for context in contexts] != ["mirolen"]:
-        yield "there has to be one context, mirolen"
-    for message in (message for context in contexts for message in context.findall("message")):
-        source, translation = message.findtext("source"), message.find("translation")
-        text = "" if translation is None else translation.text or ""
-        if source in entries:
-            yield f"{source!r} stands there twice"
-        entries[source] = text
-        if source not in texts:
-            yield f"{source!r} is used nowhere"
-        if not text.strip() or translation.get("type"):
-            yield f"{source!r} is not translated"
-        elif edges(text) != edges(source):
-            yield f"{source!r} begins or ends with other blanks than {text!r}"
-    yield from (f"{text!r} of {path} is missing" for text, path in texts.items() if text and text not in entries)
+    entries = set()
+    for context in xml.parse(catalogue).getroot().findall("context"):
+        for message in context.findall("message"):
+            source, translation = message.findtext("source"), message.find("translation")
+            text = "" if translation is None else translation.text or ""
+            key = context.findtext("name"), source
+            if key in entries:
+                yield f"{key} stands there twice"
+            entries.add(key)
+            if key not in texts:
+                yield f"{key} is used nowhere"
+            if not text.strip() or translation.get("type"):
+                yield f"{key} is not translated"
+            elif edges(text) != edges(source):
+                yield f"{key} begins or ends with other blanks than {text!r}"
+            elif sorted(PLACE.findall(text)) != sorted(PLACE.findall(source)):
+                yield f"{key} has other places than {text!r}"
+    yield from (f"{key} of {path} is missing" for key, path in texts.items() if key[1] and key not in entries)
 
 
 def main() -> int:
     root = pathlib.Path(__file__).resolve().parent.parent
-    texts = texts_of(root / "src")
+    texts = texts_of(root)
     catalogues = sorted((root / "translations").glob("*.ts"))
     found = [f"{path.name}: {fault}" for path in catalogues for fault in faults_of(path, texts)]
     if not catalogues:

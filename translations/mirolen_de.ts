@@ -738,4 +738,475 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>Einheit des Intervalls</translation>
     </message>
 </context>
+<context>
+    <name>examples</name>
+    <message>
+        <source>  %1 %  </source>
+        <translation>  %1 %  </translation>
+    </message>
+    <message>
+        <source>%1
+
+%2</source>
+        <translation>%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 - Wafer viewer</source>
+        <translation>%1 - Waferbetrachter</translation>
+    </message>
+    <message>
+        <source>%1 sites of this file cannot be plotted on a wafer of %2 mm diameter. Is the number of sites right?</source>
+        <translation>%1 Messpunkte dieser Datei lassen sich auf einem Wafer mit %2 mm Durchmesser nicht darstellen. Stimmt die Zahl der Messpunkte?</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>%1, page %2 of %3</source>
+        <translation>%1, Seite %2 von %3</translation>
+    </message>
+    <message>
+        <source>&amp;About this plot...</source>
+        <translation>&amp;Info zu diesem Plot...</translation>
+    </message>
+    <message>
+        <source>&amp;Actual size</source>
+        <translation>&amp;Originalgröße</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Design use</source>
+        <translation>En&amp;twurfsmodus</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Flat</source>
+        <translation>&amp;Abflachung</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Lot report...</source>
+        <translation>&amp;Losbericht...</translation>
+    </message>
+    <message>
+        <source>&amp;Notch</source>
+        <translation>&amp;Kerbe</translation>
+    </message>
+    <message>
+        <source>&amp;Open CSV...</source>
+        <translation>&amp;CSV öffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Optionen</translation>
+    </message>
+    <message>
+        <source>&amp;Plot options...</source>
+        <translation>&amp;Plotoptionen...</translation>
+    </message>
+    <message>
+        <source>&amp;Previous wafer</source>
+        <translation>&amp;Vorheriger Wafer</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>B&amp;eenden</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Wafer</source>
+        <translation>&amp;Wafer</translation>
+    </message>
+    <message>
+        <source>&amp;Whole page</source>
+        <translation>Ganze &amp;Seite</translation>
+    </message>
+    <message>
+        <source>--%1 is a diameter in millimetres, above 0 and at most 1000, and not "%2"</source>
+        <translation>--%1 ist ein Durchmesser in Millimetern, größer als 0 und höchstens 1000, und nicht "%2"</translation>
+    </message>
+    <message>
+        <source>Alt+Return</source>
+        <translation>Alt+Return</translation>
+    </message>
+    <message>
+        <source>Bars</source>
+        <translation>Balken</translation>
+    </message>
+    <message>
+        <source>Colour map</source>
+        <translation>Farbkarte</translation>
+    </message>
+    <message>
+        <source>Contour</source>
+        <translation>Kontur</translation>
+    </message>
+    <message>
+        <source>Ctrl++</source>
+        <translation>Ctrl++</translation>
+    </message>
+    <message>
+        <source>Ctrl+-</source>
+        <translation>Ctrl+-</translation>
+    </message>
+    <message>
+        <source>Ctrl+0</source>
+        <translation>Ctrl+0</translation>
+    </message>
+    <message>
+        <source>Ctrl+1</source>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Ctrl+=</source>
+        <translation>Ctrl+=</translation>
+    </message>
+    <message>
+        <source>Ctrl+E</source>
+        <translation>Ctrl+E</translation>
+    </message>
+    <message>
+        <source>Ctrl+L</source>
+        <translation>Ctrl+L</translation>
+    </message>
+    <message>
+        <source>Ctrl+PgDown</source>
+        <translation>Ctrl+PgDown</translation>
+    </message>
+    <message>
+        <source>Ctrl+PgUp</source>
+        <translation>Ctrl+PgUp</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+P</source>
+        <translation>Ctrl+Shift+P</translation>
+    </message>
+    <message>
+        <source>Diameter that the plot fills in this run, 6 mm less than a given wafer diameter unless given or kept.</source>
+        <translation>Durchmesser, den der Plot in diesem Lauf füllt; 6 mm weniger als ein angegebener Waferdurchmesser, wenn weder angegeben noch gesichert.</translation>
+    </message>
+    <message>
+        <source>Export &amp;SVG...</source>
+        <translation>&amp;SVG exportieren...</translation>
+    </message>
+    <message>
+        <source>Export P&amp;DF...</source>
+        <translation>&amp;PDF exportieren...</translation>
+    </message>
+    <message>
+        <source>Export P&amp;NG...</source>
+        <translation>P&amp;NG exportieren...</translation>
+    </message>
+    <message>
+        <source>Export PDF</source>
+        <translation>PDF exportieren</translation>
+    </message>
+    <message>
+        <source>Export PNG</source>
+        <translation>PNG exportieren</translation>
+    </message>
+    <message>
+        <source>Export SVG</source>
+        <translation>SVG exportieren</translation>
+    </message>
+    <message>
+        <source>Folder that keeps the settings of the plots and of the window.</source>
+        <translation>Ordner für die Einstellungen der Plots und des Fensters.</translation>
+    </message>
+    <message>
+        <source>Hi/Lo %</source>
+        <translation>Max/Min %</translation>
+    </message>
+    <message>
+        <source>Hide &amp;legend</source>
+        <translation>&amp;Legende ausblenden</translation>
+    </message>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Line scan</source>
+        <translation>Linienscan</translation>
+    </message>
+    <message>
+        <source>Lot report</source>
+        <translation>Losbericht</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt wafer</source>
+        <translation>&amp;Nächster Wafer</translation>
+    </message>
+    <message>
+        <source>No file is open.</source>
+        <translation>Es ist keine Datei geöffnet.</translation>
+    </message>
+    <message>
+        <source>Not all settings could be used. The usual ones stand in for them; a broken file is left as it is.</source>
+        <translation>Nicht alle Einstellungen waren zu gebrauchen. An ihrer Stelle gelten die üblichen; eine beschädigte Datei bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>Number of sites:</source>
+        <translation>Zahl der Messpunkte:</translation>
+    </message>
+    <message>
+        <source>Open &amp;binary...</source>
+        <translation>&amp;Binärdatei öffnen...</translation>
+    </message>
+    <message>
+        <source>Open CSV</source>
+        <translation>CSV öffnen</translation>
+    </message>
+    <message>
+        <source>Open binary</source>
+        <translation>Binärdatei öffnen</translation>
+    </message>
+    <message>
+        <source>P&amp;roperties...</source>
+        <translation>&amp;Eigenschaften...</translation>
+    </message>
+    <message>
+        <source>PDF (*.pdf)</source>
+        <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>PNG (*.png)</source>
+        <translation>PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>Print pre&amp;view...</source>
+        <translation>Druck&amp;vorschau...</translation>
+    </message>
+    <message>
+        <source>Print preview</source>
+        <translation>Druckvorschau</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Spannweite</translation>
+    </message>
+    <message>
+        <source>SVG (*.svg)</source>
+        <translation>SVG (*.svg)</translation>
+    </message>
+    <message>
+        <source>Show &amp;sites</source>
+        <translation>&amp;Messpunkte anzeigen</translation>
+    </message>
+    <message>
+        <source>Shows the sites of wafers in nine plots, prints them and writes reports.</source>
+        <translation>Zeigt die Messpunkte von Wafern in neun Plots, druckt sie und schreibt Berichte.</translation>
+    </message>
+    <message>
+        <source>Sigma map</source>
+        <translation>Sigmakarte</translation>
+    </message>
+    <message>
+        <source>Sigma surface</source>
+        <translation>Sigmafläche</translation>
+    </message>
+    <message>
+        <source>Site %1 lies %2 mm from the centre, outside a wafer of %3 mm diameter.</source>
+        <translation>Messpunkt %1 liegt %2 mm von der Mitte und damit außerhalb eines Wafers mit %3 mm Durchmesser.</translation>
+    </message>
+    <message>
+        <source>Sites</source>
+        <translation>Messpunkte</translation>
+    </message>
+    <message>
+        <source>Sites (*.csv);;All files (*)</source>
+        <translation>Messpunkte (*.csv);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Start with the usual settings and keep none.</source>
+        <translation>Mit den üblichen Einstellungen beginnen und keine sichern.</translation>
+    </message>
+    <message>
+        <source>Std dev</source>
+        <translation>Std.-Abw.</translation>
+    </message>
+    <message>
+        <source>Std dev %</source>
+        <translation>Std.-Abw. %</translation>
+    </message>
+    <message>
+        <source>Surface</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>The PDF file could not be written.</source>
+        <translation>Die PDF-Datei konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The SVG file could not be written.</source>
+        <translation>Die SVG-Datei konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The file has a header, but no sites.</source>
+        <translation>Die Datei hat eine Kopfzeile, aber keine Messpunkte.</translation>
+    </message>
+    <message>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <source>The file is too short for %1 sites of 24 bytes.</source>
+        <translation>Die Datei ist zu kurz für %1 Messpunkte zu 24 Byte.</translation>
+    </message>
+    <message>
+        <source>The file is too short to hold a site.</source>
+        <translation>Die Datei ist zu kurz für einen Messpunkt.</translation>
+    </message>
+    <message>
+        <source>The lot report could not be written.</source>
+        <translation>Der Losbericht konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The page is too small for a report.</source>
+        <translation>Die Seite ist zu klein für einen Bericht.</translation>
+    </message>
+    <message>
+        <source>The picture could not be written.</source>
+        <translation>Das Bild konnte nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The plot could not be printed.</source>
+        <translation>Der Plot konnte nicht gedruckt werden.</translation>
+    </message>
+    <message>
+        <source>The plot is too small or has no data to print.</source>
+        <translation>Der Plot ist zu klein oder hat keine Daten zum Drucken.</translation>
+    </message>
+    <message>
+        <source>The plot refuses these sites (result %1).</source>
+        <translation>Der Plot nimmt diese Messpunkte nicht an (Ergebnis %1).</translation>
+    </message>
+    <message>
+        <source>The settings could not be kept:</source>
+        <translation>Die Einstellungen konnten nicht gesichert werden:</translation>
+    </message>
+    <message>
+        <source>The three columns differ in length.</source>
+        <translation>Die drei Spalten sind verschieden lang.</translation>
+    </message>
+    <message>
+        <source>There is no printer.</source>
+        <translation>Es gibt keinen Drucker.</translation>
+    </message>
+    <message>
+        <source>These sites cannot be plotted: %1.</source>
+        <translation>Diese Messpunkte lassen sich nicht darstellen: %1.</translation>
+    </message>
+    <message>
+        <source>Unit of the values, for reports.</source>
+        <translation>Einheit der Werte, für Berichte.</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Wafer diameter of this run, 300 unless given or kept.</source>
+        <translation>Waferdurchmesser für diesen Lauf, 300, wenn weder angegeben noch gesichert.</translation>
+    </message>
+    <message>
+        <source>Wafer viewer</source>
+        <translation>Waferbetrachter</translation>
+    </message>
+    <message>
+        <source>Wafers to show, with the sites of one each: x_mm,y_mm,z.</source>
+        <translation>Wafer, die gezeigt werden, jede Datei mit den Messpunkten eines Wafers: x_mm,y_mm,z.</translation>
+    </message>
+    <message>
+        <source>Writing the lot report...</source>
+        <translation>Der Losbericht wird geschrieben...</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>a plot takes %1 sites at most.</source>
+        <translation>ein Plot fasst höchstens %1 Messpunkte.</translation>
+    </message>
+    <message>
+        <source>lot</source>
+        <translation>Los</translation>
+    </message>
+    <message>
+        <source>the field %1 is empty.</source>
+        <translation>das Feld %1 ist leer.</translation>
+    </message>
+    <message>
+        <source>the field %1 is missing.</source>
+        <translation>das Feld %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>the field %1 is no number: "%2".</source>
+        <translation>das Feld %1 ist keine Zahl: "%2".</translation>
+    </message>
+    <message>
+        <source>the header must be "x_mm,y_mm,z", but is "%1".</source>
+        <translation>die Kopfzeile muss "x_mm,y_mm,z" lauten und nicht "%1".</translation>
+    </message>
+    <message>
+        <source>there are %1 fields where 3 belong.</source>
+        <translation>es hat %1 Felder statt 3.</translation>
+    </message>
+</context>
 </TS>

@@ -1,14 +1,12 @@
 #include "lot.h"
 
-#include <QCoreApplication>
 #include <QDate>
 #include <QFileInfo>
 
 #include "report.h"
+#include "texts.h"
 
 namespace {
-
-QString text(const char* english) { return QCoreApplication::translate("report", english); }
 
 QString remark(const LotReport& report, std::size_t wafer) {
   const QString date = QDate::currentDate().toString(Qt::ISODate);

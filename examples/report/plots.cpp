@@ -11,6 +11,7 @@
 #include "mirolen/qt/Plot2DS.h"
 #include "mirolen/qt/Plot3D.h"
 #include "mirolen/qt/Plot3DS.h"
+#include "texts.h"
 
 using namespace mirolen::qt;
 
@@ -35,15 +36,15 @@ std::vector<NamedPlot> nine_plots(QWidget* parent) {
   auto* const contour = new Plot2DC(parent);
   contour->setPlotColored(Plot2DC::Ten_ColorPlot);
   contour->setResolution(Plot2DC::HighQuality);
-  return {{"plot2d", "Colour map", map},
-          {"plot2ds", "Sigma map", sigma_map},
-          {"plot2dc", "Contour", contour},
-          {"plot2dn", "Values", new Plot2DN(parent)},
-          {"plot2db", "Bars", new Plot2DB(parent)},
-          {"plot3d", "Surface", new Plot3D(parent)},
-          {"plot3ds", "Sigma surface", new Plot3DS(parent)},
-          {"histogram", "Histogram", new Histogram(parent)},
-          {"linescan", "Line scan", new LineScan(parent)}};
+  return {{"plot2d", text("Colour map"), map},
+          {"plot2ds", text("Sigma map"), sigma_map},
+          {"plot2dc", text("Contour"), contour},
+          {"plot2dn", text("Values"), new Plot2DN(parent)},
+          {"plot2db", text("Bars"), new Plot2DB(parent)},
+          {"plot3d", text("Surface"), new Plot3D(parent)},
+          {"plot3ds", text("Sigma surface"), new Plot3DS(parent)},
+          {"histogram", text("Histogram"), new Histogram(parent)},
+          {"linescan", text("Line scan"), new LineScan(parent)}};
 }
 
 NamedPlot twin_of(const NamedPlot& original, QWidget* parent) {

@@ -1,12 +1,12 @@
 #include "report.h"
 
-#include <QCoreApplication>
 #include <QLocale>
 #include <algorithm>
 
 #include "mirolen/print/PrintWafer.h"
 #include "mirolen/qt/MapWidget.h"
 #include "mirolen/qt/PrintJob.h"
+#include "texts.h"
 
 using mirolen::qt::MapWidget;
 using mirolen::qt::PlotWidget;
@@ -20,8 +20,6 @@ constexpr double edge = 30;        // what the right edge of a frame takes beyon
 constexpr double block_width = 2775, legend_height = 2895, gap = 250;
 constexpr double statistics_height = 2115, size_height = 1155;
 constexpr double beside_plot = 1250;  // what a plot leaves for the orientation mark
-
-QString text(const char* english) { return QCoreApplication::translate("report", english); }
 
 /// The target of a plot for as long as a page takes.
 class Target {

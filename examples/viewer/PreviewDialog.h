@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QDialog>
 
 #include "PagePreview.h"
@@ -10,6 +11,8 @@ class QToolBar;
 
 /// Shows a page before it is printed. It is accepted where the user asks to print it.
 class PreviewDialog : public QDialog {
+  Q_DECLARE_TR_FUNCTIONS(examples)
+
  public:
   PreviewDialog(const QPageLayout& layout, PagePreview::Draw draw, QWidget* parent);
 

@@ -4,6 +4,7 @@
 #include <QStandardPaths>
 
 #include "mirolen/core/RunTimeError.h"
+#include "texts.h"
 
 namespace {
 
@@ -13,7 +14,7 @@ std::optional<double> diameter(const QCommandLineParser& options, const QString&
   const double value = options.value(name).toDouble(&is_number);
   if (is_number && value > 0 && value <= 1000) return value;
   throw mirolen::InvalidArgument(
-      QStringLiteral("--%1 is a diameter in millimetres, above 0 and at most 1000, and not \"%2\"")
+      text("--%1 is a diameter in millimetres, above 0 and at most 1000, and not \"%2\"")
           .arg(name, options.value(name))
           .toStdString());
 }
@@ -23,18 +24,18 @@ std::optional<double> diameter(const QCommandLineParser& options, const QString&
 ViewerOptions options_in(const QStringList& command_line) {
   QCommandLineParser options;
   options.setApplicationDescription(
-      "Shows the sites of wafers in nine plots, prints them and writes reports.");
+      text("Shows the sites of wafers in nine plots, prints them and writes reports."));
   options.addHelpOption();
-  options.addOption({"diameter", "Wafer diameter of this run, 300 unless given or kept.", "mm"});
+  options.addOption({"diameter", text("Wafer diameter of this run, 300 unless given or kept."), "mm"});
   options.addOption({"test-diameter",
-                     "Diameter that the plot fills in this run, 6 mm less than a given wafer diameter unless "
-                     "given or kept.",
+                     text("Diameter that the plot fills in this run, 6 mm less than a given wafer diameter "
+                          "unless given or kept."),
                      "mm"});
-  options.addOption({"unit", "Unit of the values, for reports.", "text"});
-  options.addOption({"settings", "Folder that keeps the settings of the plots and of the window.", "dir",
-                     QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)});
-  options.addOption({"no-settings", "Start with the usual settings and keep none."});
-  options.addPositionalArgument("files", "Wafers to show, with the sites of one each: x_mm,y_mm,z.",
+  options.addOption({"unit", text("Unit of the values, for reports."), "text"});
+  options.addOption({"settings", text("Folder that keeps the settings of the plots and of the window."),
+                     "dir", QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation)});
+  options.addOption({"no-settings", text("Start with the usual settings and keep none.")});
+  options.addPositionalArgument("files", text("Wafers to show, with the sites of one each: x_mm,y_mm,z."),
                                 "[file.csv...]");
   options.process(command_line);
   return {diameter(options, "diameter"), diameter(options, "test-diameter"), options.value("unit"),

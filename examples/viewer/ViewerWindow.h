@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <array>
@@ -20,6 +21,8 @@ struct ViewerOptions;
 /// A window with the nine plots of a wafer, a page each, and its statistics; of several files that are open
 /// one is shown. Only the page that is seen draws. What fails is told by a message.
 class ViewerWindow : public QMainWindow {
+  Q_DECLARE_TR_FUNCTIONS(examples)
+
  public:
   /// Diameters in millimetres. The unit is that of the values; it appears in reports.
   ViewerWindow(double wafer_diameter, double test_diameter, QString unit = {});

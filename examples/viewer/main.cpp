@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
 #include <cstdio>
 
 #include "ViewerOptions.h"
@@ -11,6 +13,9 @@ int main(int argc, char** argv) {
   QApplication::setOrganizationName("Mirolen");
   QApplication::setApplicationName("WaferViewer");
   mirolen::qt::install_translations();
+  QTranslator of_qt;  // the texts of its own dialogs
+  if (of_qt.load(QLocale(), "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    QApplication::installTranslator(&of_qt);
   try {
     const ViewerOptions options = options_in(QApplication::arguments());
     ViewerWindow window(300, 294);
