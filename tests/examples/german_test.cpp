@@ -38,7 +38,8 @@ TEST_F(ViewerInGerman, HasMenusWithKeysOfTheirOwn) {
 }
 
 TEST_F(ViewerInGerman, HasAPreviewWithKeysOfItsOwn) {
-  PreviewDialog preview(qt::PrintJob::a4(), [](const auto&) {}, &window);
+  PreviewDialog preview(
+      qt::PrintJob::a4(), [](const auto&) {}, &window);
   EXPECT_EQ(preview.windowTitle(), "Druckvorschau");
   QList<QAction*> entries;
   for (QAction* action : preview.findChildren<QAction*>())
