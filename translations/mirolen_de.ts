@@ -487,7 +487,7 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
     </message>
     <message>
         <source>Test diameter :</source>
-        <translation>Messdurchmesser:</translation>
+        <translation>Mess-Ø:</translation>
     </message>
     <message>
         <source>Testdiameter exeded</source>
@@ -539,7 +539,7 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
     </message>
     <message>
         <source>Wafer diameter :</source>
-        <translation>Waferdurchmesser:</translation>
+        <translation>Wafer-Ø:</translation>
     </message>
     <message>
         <source>Wafer diamter can not be less than test diameter</source>

@@ -18,7 +18,7 @@ bool serves(const PageKind& kind, const automation::Object& control) {
   return std::find(kind.classes.begin(), kind.classes.end(), control.info->name) != kind.classes.end();
 }
 
-constexpr double button_width = 960, button_height = 375;
+constexpr double button_width = 1260, button_height = 375;
 
 }  // namespace
 
