@@ -1,5 +1,6 @@
 #include <array>
 #include <cmath>
+#include <vector>
 
 #include "mirolen/core/translation.h"
 #include "mirolen/render/ColorScale.h"
@@ -60,8 +61,13 @@ void ContourPainter::set_up(double Pi) {
   S_ = divide(request_.st, wafer_.WafDiam / 2);
   const int rings = SetContourQuality(request_.reso, wafer_.GetNop());
   mesh_ = BuildContourMesh(wafer_.test_diam, rings, Pi);
-  for (const SurfacePoint& node : mesh_.ContourA)
-    mesh_.ContourB.push_back(wafer_.Interpolation(node.x, node.y));
+  std::vector<double> x, y;
+  for (const SurfacePoint& node : mesh_.ContourA) {
+    x.push_back(node.x);
+    y.push_back(node.y);
+  }
+  mesh_.ContourB.resize(mesh_.ContourA.size());
+  wafer_.Interpolation(x, y, mesh_.ContourB);
 }
 
 void ContourPainter::draw_disc() {

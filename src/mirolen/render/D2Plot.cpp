@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "mirolen/render/ColorScale.h"
+#include "mirolen/render/NodeLine.h"
 #include "mirolen/render/PlanPainter.h"
 
 namespace mirolen {
@@ -15,7 +16,7 @@ constexpr double no_data = 0;       // scaled height of a point outside the wafe
 constexpr std::int16_t fewest_cells = 4, most_cells = 100;  // from the centre to the edge
 
 /// One call of `D2Plot`. A colour map is a mosaic of square cells, drawn from the top right corner leftward
-/// and down; the value at each grid node is interpolated once, and a row of them is kept for the cells below.
+/// and down; the values at the nodes of a grid line are interpolated once, and kept for the cells below.
 class MapPainter : PlanPainter {
  public:
   /// What `D2Plot` was asked for.
@@ -43,6 +44,7 @@ class MapPainter : PlanPainter {
   void set_grid();
   void set_mapping();
   void paint_disc();
+  void measure_line(int gy, std::vector<double>& heights);
   void paint_row(int j);
   void paint_cell(const std::array<Corner, 4>& corners, std::array<double, 4> heights);
   double cell_color(double zc) const;
@@ -54,9 +56,6 @@ class MapPainter : PlanPainter {
   double norm(double z) const { return PlanPainter::norm(z, high_); }
   double value_at(Corner node) const {
     return wafer_.Interpolation(node.gx * request_.res, node.gy * request_.res);
-  }
-  double node_height(Corner node) const {
-    return norm(inside(node.gx * request_.res, node.gy * request_.res) ? value_at(node) : wafer_.Low);
   }
   PixelPoint pixel(Corner node) const {
     return {columns_[static_cast<std::size_t>(node.gx + n_)], lines_[static_cast<std::size_t>(node.gy + n_)]};
@@ -71,7 +70,8 @@ class MapPainter : PlanPainter {
   double flat_limit_ = 0, radius_square_ = 0;
   double sigma_low_ = 0, sigma_high_ = 0;
   std::vector<std::int32_t> columns_, lines_;  // device pixels of the grid's lines, from -n up
-  std::vector<double> row_;                    // scaled heights of the grid line above the present row
+  std::vector<double> above_, below_;          // scaled heights of the grid lines round the present row
+  NodeLine line_;
 };
 
 void MapPainter::set_up() {
@@ -141,13 +141,22 @@ void MapPainter::set_mapping() {
 
 void MapPainter::paint_map() {
   paint_disc();
-  row_.resize(columns_.size());
-  for (int i = 0; i <= 2 * n_; ++i) row_[static_cast<std::size_t>(i)] = node_height({n_ - i, n_});
+  measure_line(n_, above_);
   for (int j = 0; j < 2 * n_; ++j) {
+    measure_line(n_ - j - 1, below_);
     paint_row(j);
+    above_.swap(below_);
     show();
   }
   show();
+}
+
+/// The heights of a grid line's nodes, from the right to the left.
+void MapPainter::measure_line(int gy, std::vector<double>& heights) {
+  const double y = gy * request_.res;
+  line_.clear();
+  for (int gx = n_; gx >= -n_; --gx) line_.add(gx * request_.res, y, inside(gx * request_.res, y));
+  line_.measure(wafer_, heights, [this](double z) { return norm(z); });
 }
 
 void MapPainter::paint_disc() {
@@ -156,18 +165,11 @@ void MapPainter::paint_disc() {
 }
 
 void MapPainter::paint_row(int j) {
-  double zC = 0;
   for (int i = 0; i < 2 * n_; ++i) {
     const Corner A{n_ - i, n_ - j}, B{n_ - i - 1, n_ - j}, C{n_ - i - 1, n_ - j - 1}, D{n_ - i, n_ - j - 1};
     const auto at = static_cast<std::size_t>(i);
-    const double zA = row_[at];
-    const double zB = row_[at + 1];
-    const double zD = i == 0 ? node_height(D) : zC;
-    zC = node_height(C);
-    row_[at] = zD;
-    paint_cell({A, B, C, D}, {zA, zB, zC, zD});
+    paint_cell({A, B, C, D}, {above_[at], above_[at + 1], below_[at + 1], below_[at]});
   }
-  row_.back() = zC;
 }
 
 void MapPainter::paint_cell(const std::array<Corner, 4>& corners, std::array<double, 4> heights) {

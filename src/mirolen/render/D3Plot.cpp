@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "mirolen/render/ColorScale.h"
+#include "mirolen/render/NodeLine.h"
 #include "mirolen/render/Painter.h"
 
 namespace mirolen {
@@ -57,7 +58,7 @@ class SurfacePainter : Painter {
   double sigma_color_of(double zMean) const;
 
   double scaled(double level) const { return height_on_scale(level, wafer_.maxi, zScale_); }
-  double node_height(int p, int q) const;
+  void measure_line(int q, std::vector<double>& heights);
   PixelPoint pixel(int p, int q, double height) const;
 
   Request request_;
@@ -69,7 +70,8 @@ class SurfacePainter : Painter {
   double scale_ = 0, zScale_ = 0;
   double flatLimit_ = 0, radius_square_ = 0;
   double sigma_low_ = 0, sigma_high_ = 0;
-  std::vector<double> rowZ_;  // heights of the far edge of the row being drawn
+  std::vector<double> far_, near_;  // heights of the edges of the row being drawn
+  NodeLine line_;
 };
 
 void SurfacePainter::set_levels() {
@@ -144,33 +146,30 @@ void SurfacePainter::set_scale() {
 }
 
 void SurfacePainter::paint() {
-  rowZ_.resize(static_cast<std::size_t>(2 * nx_ + 1));
-  for (int i = 0; i <= 2 * nx_; ++i) rowZ_[static_cast<std::size_t>(i)] = node_height(i, 0);
+  measure_line(0, far_);
   for (int j = 0; j < 2 * ny_; ++j) {
+    measure_line(j + 1, near_);
     paint_row(j);
+    far_.swap(near_);
     show();
   }
 }
 
-void SurfacePainter::paint_row(int j) {
-  double zD = 0;
-  for (int i = 0; i < 2 * nx_; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    const double zA = rowZ_[at];
-    const double zB = rowZ_[at + 1];
-    const double zC = i == 0 ? node_height(i, j + 1) : zD;
-    zD = node_height(i + 1, j + 1);
-    rowZ_[at] = zC;
-    paint_cell(i, j, {zA, zB, zC, zD});
+void SurfacePainter::measure_line(int q, std::vector<double>& heights) {
+  line_.clear();
+  for (int p = 0; p <= 2 * nx_; ++p) {
+    const double x = rotate_x(nx_ - p, ny_ - q, turned_.sxc, turned_.sys);
+    const double y = rotate_y(-nx_ + p, ny_ - q, turned_.syc, turned_.sxs);
+    line_.add(x, y, radius_square_ > x * x + y * y && y > flatLimit_);
   }
-  rowZ_.back() = zD;
+  line_.measure(wafer_, heights, [this](double z) { return scaled(z); });
 }
 
-double SurfacePainter::node_height(int p, int q) const {
-  const double x = rotate_x(nx_ - p, ny_ - q, turned_.sxc, turned_.sys);
-  const double y = rotate_y(-nx_ + p, ny_ - q, turned_.syc, turned_.sxs);
-  const bool on_wafer = radius_square_ > x * x + y * y && y > flatLimit_;
-  return scaled(on_wafer ? wafer_.Interpolation(x, y) : wafer_.Low);
+void SurfacePainter::paint_row(int j) {
+  for (int i = 0; i < 2 * nx_; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    paint_cell(i, j, {far_[at], far_[at + 1], near_[at], near_[at + 1]});
+  }
 }
 
 PixelPoint SurfacePainter::pixel(int p, int q, double height) const {
