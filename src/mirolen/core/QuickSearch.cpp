@@ -116,12 +116,14 @@ QuickSearch::QuickSearch(const SiteIndex& index, std::span<const SiteIndex::Posi
   x_.reserve(index.sites().size() + at_once);
   y_.reserve(index.sites().size() + at_once);
   sites_.reserve(index.sites().size());
-  for (const std::int16_t number : index.sites()) {
-    const auto site = static_cast<std::size_t>(number);
-    sites_.push_back({positions[site], values[site]});
-    x_.push_back(static_cast<float>(positions[site].x));
-    y_.push_back(static_cast<float>(positions[site].y));
-  }
+  for (std::int16_t cy = 0; cy < index.side(); ++cy)
+    for (std::int16_t cx = 0; cx < index.side(); ++cx)
+      for (const std::int16_t number : index.cell(cx, cy)) {
+        const auto site = static_cast<std::size_t>(number);
+        sites_.push_back({positions[site], values[site], cx, cy});
+        x_.push_back(static_cast<float>(positions[site].x));
+        y_.push_back(static_cast<float>(positions[site].y));
+      }
   // The last ones are read by fours, too.
   x_.resize(sites_.size() + at_once);
   y_.resize(sites_.size() + at_once);
@@ -177,12 +179,19 @@ std::array<QuickSearch::Keys, 4> QuickSearch::nearest(const Block& block, const 
 
 void QuickSearch::values(const SiteIndex& index, std::span<const double> Xa, std::span<const double> Ya,
                          double farthest, std::span<double> results) const {
+  SiteIndex::Interior cell;  // where the points before lie
   for (std::size_t i = 0; i < results.size(); i += 4) {
     const std::size_t count = std::min<std::size_t>(4, results.size() - i);
     FourPoints points;
+    bool in_cell = true;
     for (std::size_t k = 0; k < 4; ++k) {
       const std::size_t at = i + std::min(k, count - 1);
-      points[k] = {{Xa[at], Ya[at]}, index.home(Xa[at], Ya[at])};
+      points[k] = {{Xa[at], Ya[at]}, cell.home};
+      in_cell &= cell.contains(points[k]);
+    }
+    if (!in_cell) {
+      for (Point& point : points) point.home = index.home(point.x, point.y);
+      cell = index.interior(points[3].home);
     }
     const std::array<double, 4> four = values(index, points, farthest);
     std::copy_n(four.begin(), count, results.begin() + static_cast<std::ptrdiff_t>(i));
@@ -191,8 +200,6 @@ void QuickSearch::values(const SiteIndex& index, std::span<const double> Xa, std
 
 std::array<double, 4> QuickSearch::values(const SiteIndex& index, const FourPoints& points,
                                           double farthest) const {
-  std::array<double, 4> results;
-  results.fill(unsure);
   SiteIndex::Home low = points[0].home, high = low;
   bool inside = !sites_.empty();
   for (const Point& point : points) {
@@ -200,14 +207,13 @@ std::array<double, 4> QuickSearch::values(const SiteIndex& index, const FourPoin
     low.x = std::min(low.x, point.home.x), high.x = std::max(high.x, point.home.x);
     low.y = std::min(low.y, point.home.y), high.y = std::max(high.y, point.home.y);
   }
-  const bool near = high.x - low.x <= 2 && high.y - low.y <= 2;
-  if (inside && near) {
+  std::array<double, 4> results{unsure, unsure, unsure, unsure};
+  const bool one_home = low.x == high.x && low.y == high.y;
+  if (inside && high.x - low.x <= 2 && high.y - low.y <= 2) {
     const Block block(index, low, high);
+    // A block round more than one home has cells that a point's own ring lacks; they are at least so far off.
+    const double nearer = one_home ? farthest : std::min(farthest, 0.999 * index.GridCell());
     if (block.fits()) {
-      // A block round more than one home has cells that a point's own ring lacks; they are at least so far
-      // off.
-      const bool one_home = low.x == high.x && low.y == high.y;
-      const double nearer = one_home ? farthest : std::min(farthest, 0.999 * index.GridCell());
       const std::array<Keys, 4> keys = nearest(block, points);
       for (std::size_t k = 0; k < 4; ++k) results[k] = weigh(index, block, keys[k], points[k], nearer);
       if (one_home) return results;
@@ -245,33 +251,29 @@ double QuickSearch::weigh(const SiteIndex& index, const Block& block, const Keys
   }
   if (!(keys[4] > D[3] * D[3] + error_of_key(D[3]))) return weigh_first_met(index, keys, point, farthest);
   if (!(std::max({D[0], D[1], D[2], D[3]}) < farthest)) return unsure;
-  if (!(D[0] < D[1] && D[1] < D[2] && D[2] < D[3])) put_in_order(index, block, keys, point, D, z);
+  if (!(D[0] < D[1] && D[1] < D[2] && D[2] < D[3])) put_in_order(block, keys, point, D, z);
   return ends_behind_one_ring(index, point, D[3]) ? mean_of(D, z) : unsure;
 }
 
 /// Sorts the winners by their distance, and equal ones as the search meets them: by their cells, and within a
 /// cell by their place.
-void QuickSearch::put_in_order(const SiteIndex& index, const Block& block, const Keys& keys,
-                               const Point& point, std::array<double, 4>& D, std::array<double, 4>& z) const {
-  struct Winner {
-    double distance;
-    std::uint64_t met;
-    double z;
-    bool operator<(const Winner& other) const {
-      return distance != other.distance ? distance < other.distance : met < other.met;
-    }
-  };
-  std::array<Winner, 4> winners;
+void QuickSearch::put_in_order(const Block& block, const Keys& keys, const Point& point,
+                               std::array<double, 4>& D, std::array<double, 4>& z) const {
+  std::array<std::size_t, 4> met, rank{};
   for (std::size_t slot = 0; slot < 4; ++slot) {
     const std::size_t place = block.place(keys[slot]);
-    const SiteIndex::Home cell = index.home(sites_[place].x, sites_[place].y);
-    const auto turn = static_cast<std::uint64_t>(Ring::turn(cell.x - point.home.x, cell.y - point.home.y));
-    winners[slot] = {D[slot], turn << 32 | place, z[slot]};
+    const Site& site = sites_[place];
+    met[slot] = Ring::turn(site.cx - point.home.x, site.cy - point.home.y) * sites_.size() + place;
   }
-  std::sort(winners.begin(), winners.end());
+  for (std::size_t a = 0; a < 4; ++a)
+    for (std::size_t b = a + 1; b < 4; ++b) {
+      const bool b_first = D[b] < D[a] || (D[b] == D[a] && met[b] < met[a]);
+      ++rank[b_first ? a : b];
+    }
+  const auto by_slot = D, values = z;
   for (std::size_t slot = 0; slot < 4; ++slot) {
-    D[slot] = winners[slot].distance;
-    z[slot] = winners[slot].z;
+    D[rank[slot]] = by_slot[slot];
+    z[rank[slot]] = values[slot];
   }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 
@@ -19,8 +20,8 @@ struct Ring {
   };
 
   /// The turn of a cell among the home cell and the first ring round it, by its place from the home cell.
-  static std::int32_t turn(std::int64_t dx, std::int64_t dy) {
-    constexpr std::int32_t turns[3][3] = {{7, 6, 5}, {8, 0, 4}, {1, 2, 3}};
+  static std::size_t turn(std::int64_t dx, std::int64_t dy) {
+    constexpr std::size_t turns[3][3] = {{7, 6, 5}, {8, 0, 4}, {1, 2, 3}};
     return turns[dy + 1][dx + 1];
   }
 

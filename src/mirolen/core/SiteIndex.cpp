@@ -26,6 +26,14 @@ SiteIndex::SiteIndex(double GridCell, std::int16_t HalfCells, std::span<const Po
     sites_[next[cells[site]]++] = static_cast<std::int16_t>(site);
 }
 
+SiteIndex::Interior SiteIndex::interior(const Home& home) const {
+  if (!home.countable) return {};
+  constexpr double half = 0.5 - 1e-9;  // of a cell; the rest is left to rounding
+  const double x = static_cast<double>(home.x - HalfCells_), y = static_cast<double>(home.y - HalfCells_);
+  return {home, (x - half) * GridCell_, (x + half) * GridCell_, (y - half) * GridCell_,
+          (y + half) * GridCell_};
+}
+
 double SiteIndex::to_line(double Xa, double Ya) const {
   const auto along = [this](double millimetres) {
     const double cells = millimetres / GridCell_;
