@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
+#include <malloc.h>
+
+#include <QApplication>
+#include <cmath>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "mirolen/qt/Plot2D.h"
+#include "qt/nine_faces.h"
+
+namespace mirolen {
+namespace {
+
+constexpr std::int64_t small = 16'000;  // what the allocator keeps in hand
+
+/// The bytes that all of the program holds at present.
+std::int64_t held_bytes() {
+  const struct mallinfo2 now = mallinfo2();
+  return static_cast<std::int64_t>(now.uordblks + now.hblkhd);
+}
+
+std::unique_ptr<qt::PlotWidget> shown_plot(const char* name) {
+  auto face = qt_test::make_face(name);
+  std::vector<double> x, y, z;
+  for (int site = 0; site < 60; ++site) {
+    const double radius = 11 * std::sqrt(site), angle = 2.4 * site;
+    x.push_back(radius * std::cos(angle));
+    y.push_back(radius * std::sin(angle));
+    z.push_back(100 + site % 7);
+  }
+  face->resize(260, 260);
+  face->show();
+  EXPECT_EQ(face->SetWaferData(x, y, z), 0);
+  return face;
+}
+
+/// The bytes that are held longer, after so many redraws.
+std::int64_t growth(qt::PlotWidget& face, int redraws) {
+  const auto redraw = [&](int times) {
+    for (int i = 0; i < times; ++i) {
+      face.SetPlotNotVaild();
+      ASSERT_EQ(face.Plot(), 0);
+      QApplication::processEvents();
+    }
+  };
+  redraw(50);  // caches of glyphs, pictures and events
+  const std::int64_t before = held_bytes();
+  redraw(redraws);
+  return held_bytes() - before;
+}
+
+class Redrawing : public testing::TestWithParam<const char*> {};
+
+INSTANTIATE_TEST_SUITE_P(All, Redrawing,
+                         testing::Values("Plot2DS", "Plot2DC", "Plot2DN", "Plot2DB", "Plot3D", "Plot3DS",
+                                         "Histogram", "LineScan"),
+                         [](const auto& param) { return std::string(param.param); });
+
+TEST_P(Redrawing, HoldsNoMoreMemoryInTheEnd) {
+  const auto face = shown_plot(GetParam());
+  EXPECT_LT(growth(*face, 1000), small) << "16 bytes a redraw are too many";
+}
+
+TEST(Redrawing, TenThousandTimesHoldsNoMoreMemoryInTheEnd) {
+  const auto face = shown_plot("Plot2D");
+  EXPECT_LT(growth(*face, 10'000), small);
+}
+
+}  // namespace
+}  // namespace mirolen
+#endif
