@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "dialogs/form_layout.h"
 #include "mirolen/core/palette.h"
 #include "mirolen/dialogs/frmPlotHist.h"
 #include "mirolen/dialogs/frmPlotOpt1D.h"
@@ -70,16 +71,5 @@ inline void fill(frmPlotOpt1D& form, wafer& data) {
 
 using AllForms = testing::Types<frmPlotOpt2d, frmPlotOpt2ds, frmPlotOpt2DC, frmPlotOpt2DB, frmPlotOpt3d,
                                 frmPlotOpt3ds, frmPlotHist, frmPlotOpt1D>;
-
-/// All widgets below one, in the order of the Tab key.
-inline std::vector<Widget*> below(const Widget& root) {
-  std::vector<Widget*> widgets;
-  for (Widget* child : root.children()) {
-    widgets.push_back(child);
-    const std::vector<Widget*> inner = below(*child);
-    widgets.insert(widgets.end(), inner.begin(), inner.end());
-  }
-  return widgets;
-}
 
 }  // namespace mirolen

@@ -10,15 +10,7 @@ namespace {
 /// All captions and tool tips below a widget, and its own.
 std::vector<std::string> texts_of(const Widget& root) {
   std::vector<std::string> texts{root.ToolTipText};
-  const auto add = [&](const auto* widget) {
-    if (widget) texts.push_back(widget->Caption);
-  };
-  add(dynamic_cast<const Form*>(&root));
-  add(dynamic_cast<const Frame*>(&root));
-  add(dynamic_cast<const Label*>(&root));
-  add(dynamic_cast<const Button*>(&root));
-  add(dynamic_cast<const OptionButton*>(&root));
-  add(dynamic_cast<const CheckBox*>(&root));
+  if (const auto* captioned = dynamic_cast<const Captioned*>(&root)) texts.push_back(captioned->Caption);
   for (const Widget* child : root.children())
     for (const std::string& text : texts_of(*child)) texts.push_back(text);
   return texts;

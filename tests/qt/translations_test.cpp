@@ -41,15 +41,8 @@ using qt::view_of;
 /// All captions below a widget, and its own.
 QStringList captions_of(const Widget& root) {
   QStringList captions;
-  const auto add = [&](const auto* widget) {
-    if (widget) captions << qt::text_of(widget->Caption.get());
-  };
-  add(dynamic_cast<const Form*>(&root));
-  add(dynamic_cast<const Frame*>(&root));
-  add(dynamic_cast<const Label*>(&root));
-  add(dynamic_cast<const Button*>(&root));
-  add(dynamic_cast<const OptionButton*>(&root));
-  add(dynamic_cast<const CheckBox*>(&root));
+  if (const auto* captioned = dynamic_cast<const Captioned*>(&root))
+    captions << qt::text_of(captioned->Caption.get());
   for (const Widget* child : root.children()) captions << captions_of(*child);
   return captions;
 }
@@ -184,16 +177,11 @@ TYPED_TEST(FormInGerman, CutsNoText) {
 /// The access keys in force below a widget, in order.
 std::vector<QString> access_keys(const Widget& root) {
   std::vector<QString> keys;
-  const auto add = [&](const auto* widget) {
-    if (!widget || widget->AccessKey == 0) return;
-    const QString text = qt::with_mnemonic(qt::text_of(widget->Caption.get()), widget->AccessKey);
+  if (const auto* keyed = dynamic_cast<const Keyed*>(&root); keyed && keyed->AccessKey != 0) {
+    const QString text = qt::with_mnemonic(qt::text_of(keyed->Caption.get()), keyed->AccessKey);
     const QKeySequence key = QKeySequence::mnemonic(text);
     if (!key.isEmpty()) keys.push_back(key.toString());
-  };
-  add(dynamic_cast<const Label*>(&root));
-  add(dynamic_cast<const Button*>(&root));
-  add(dynamic_cast<const OptionButton*>(&root));
-  add(dynamic_cast<const CheckBox*>(&root));
+  }
   for (const Widget* child : root.children())
     for (const QString& key : access_keys(*child)) keys.push_back(key);
   return keys;

@@ -1,11 +1,8 @@
 #include "mirolen/widgets/Form.h"
 
-#include "mirolen/core/translation.h"
-
 namespace mirolen {
 
-Form::Form(Toolkit& toolkit, std::string_view text)
-    : Widget(WidgetKind::form, toolkit), Caption(*this, tr(text)) {
+Form::Form(Toolkit& toolkit, std::string_view text) : Captioned(WidgetKind::form, toolkit, text) {
   Visible = false;
 }
 

@@ -9,11 +9,10 @@ namespace mirolen {
 /// A window of its own: the root of a tree of widgets, which the user has to answer before anything else.
 /// Width and Height are its inner size; it is seen while `Show` runs. Its children are passed by the Tab key
 /// in the order of their creation.
-class Form : public Widget {
+class Form : public Captioned {
  public:
   explicit Form(Toolkit& toolkit, std::string_view text = {});
 
-  Property<Widget, std::string> Caption;
   Button* DefaultButton = nullptr;  ///< What Return presses.
   Button* CancelButton = nullptr;   ///< What Escape presses, and the closing of the window.
   Widget* FirstFocus = nullptr;     ///< What has the focus when the form appears.

@@ -9,30 +9,48 @@
 
 namespace mirolen {
 
+/// What has a caption, in the language in force.
+class Captioned : public Widget {
+ public:
+  Property<Widget, std::string> Caption;
+
+ protected:
+  Captioned(WidgetKind kind, Widget* container, std::string_view text)
+      : Widget(kind, container), Caption(*this, tr(text)) {}
+  Captioned(WidgetKind kind, Toolkit& toolkit, std::string_view text)
+      : Widget(kind, toolkit), Caption(*this, tr(text)) {}
+};
+
+/// What the keyboard reaches by a letter of the caption: a button is pressed, an option is chosen, a box is
+/// ticked or unticked, a label gives the focus to the widget behind it.
+class Keyed : public Captioned {
+ public:
+  /// 0 for none.
+  Property<Widget, char> AccessKey{*this, 0};
+
+ protected:
+  using Captioned::Captioned;
+};
+
 /// A box with a caption on its top edge, round other widgets.
-class Frame : public Widget, public CaptionLabel {
+class Frame : public Captioned, public CaptionLabel {
  public:
   explicit Frame(Widget* container, std::string_view text = {})
-      : Widget(WidgetKind::frame, container), Caption(*this, tr(text)) {}
+      : Captioned(WidgetKind::frame, container, text) {}
 
-  Property<Widget, std::string> Caption;
   Property<Widget, bool> Border{*this, true};
 
   void caption(const std::string& text) override { Caption = text; }
 };
 
 /// A line of text. With AutoSize it is as wide as its text.
-class Label : public Widget, public ValueLabel {
+class Label : public Keyed, public ValueLabel {
  public:
-  explicit Label(Widget* container, std::string_view text = {})
-      : Widget(WidgetKind::label, container), Caption(*this, tr(text)) {}
+  explicit Label(Widget* container, std::string_view text = {}) : Keyed(WidgetKind::label, container, text) {}
 
-  Property<Widget, std::string> Caption;
   Property<Widget, FontSpec> Font{*this, {}};
   Property<Widget, bool> AutoSize{*this, false};
   Property<Widget, bool> Centered{*this, false};
-  /// The letter of the caption that takes the focus to the widget behind the label; 0 for none.
-  Property<Widget, char> AccessKey{*this, 0};
 
   void caption(const std::string& text) override { Caption = text; }
   void tool_tip(const std::string& text) override { ToolTipText = text; }
@@ -41,26 +59,19 @@ class Label : public Widget, public ValueLabel {
   void changed() override;
 };
 
-class Button : public Widget {
+class Button : public Keyed {
  public:
   explicit Button(Widget* container, std::string_view text = {})
-      : Widget(WidgetKind::button, container), Caption(*this, tr(text)) {}
-
-  Property<Widget, std::string> Caption;
-  /// The letter of the caption that presses the button; 0 for none.
-  Property<Widget, char> AccessKey{*this, 0};
+      : Keyed(WidgetKind::button, container, text) {}
 };
 
 /// A choice among its siblings, the option buttons of the same container: choosing one un-chooses the others.
 /// Choosing another, by program or by the user, raises OnClick.
-class OptionButton : public Widget {
+class OptionButton : public Keyed {
  public:
   explicit OptionButton(Widget* container, std::string_view text = {})
-      : Widget(WidgetKind::option_button, container), Caption(*this, tr(text)) {}
+      : Keyed(WidgetKind::option_button, container, text) {}
 
-  Property<Widget, std::string> Caption;
-  /// The letter of the caption that chooses it; 0 for none.
-  Property<Widget, char> AccessKey{*this, 0};
   bool Value() const { return value_; }
   void Value(bool value);
 
@@ -69,14 +80,11 @@ class OptionButton : public Widget {
 };
 
 /// A box that is ticked or not. Another value, by program or by the user, raises OnClick.
-class CheckBox : public Widget {
+class CheckBox : public Keyed {
  public:
   explicit CheckBox(Widget* container, std::string_view text = {})
-      : Widget(WidgetKind::check_box, container), Caption(*this, tr(text)) {}
+      : Keyed(WidgetKind::check_box, container, text) {}
 
-  Property<Widget, std::string> Caption;
-  /// The letter of the caption that ticks and unticks it; 0 for none.
-  Property<Widget, char> AccessKey{*this, 0};
   bool Value() const { return value_; }
   void Value(bool value);
 
