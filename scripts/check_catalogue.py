@@ -16,7 +16,7 @@ MARKED = re.compile(rf"\b(?:tr|translatable)\(\s*({LITERALS})\s*\)")
 CAPTION = re.compile(
     rf"\b(?:Frame|Label|Button|OptionButton|CheckBox|Form|PropertyPage|ViewPage|ViewOptions|SurfaceOptions)"
     rf"(?:\s+\w+)?\s*[({{]\s*[\w&*.]+\s*,\s*({LITERALS})\s*[)}}]")
-# The captions of a set of options: name(options, {"one", "two"}) or name(options, {{"one", 'o'}, {"two", 't'}}).
+# The captions of a set of options: name(options, {"one", "two"}).
 NAMES = re.compile(rf"\bname\(\s*\w+\s*,\s*\{{(.*?)\}}\s*\)\s*;", re.DOTALL)
 IN_EXAMPLES = re.compile(rf"\b(?:tr|text)\(\s*({LITERALS})\s*\)")
 PLACE = re.compile(r"%\d")

@@ -62,16 +62,6 @@ TYPED_TEST(FormLayout, PicturesLieSideBySide) {
   EXPECT_LE(tops.size(), 1u);
 }
 
-TYPED_TEST(FormLayout, AccessKeysAreLettersOfTheirCaptionsAndDiffer) {
-  std::set<int> keys;
-  for (const Keyed* keyed : all<Keyed>(below(this->form))) {
-    const std::string& caption = keyed->Caption;
-    if (keyed->AccessKey == 0) continue;
-    EXPECT_NE(caption.find(keyed->AccessKey), std::string::npos) << caption;
-    EXPECT_TRUE(keys.insert(std::toupper(keyed->AccessKey)).second) << caption;
-  }
-}
-
 TYPED_TEST(FormLayout, FitsASmallScreen) {
   EXPECT_LE(this->form.Width.get(), 640 * 15);
   EXPECT_LE(this->form.Height.get(), 440 * 15);

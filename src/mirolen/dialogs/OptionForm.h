@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "mirolen/core/translation.h"
 #include "mirolen/core/wafer.h"
 #include "mirolen/dialogs/Rows.h"
 #include "mirolen/dialogs/input_fields.h"
+#include "mirolen/dialogs/option_sets.h"
 #include "mirolen/widgets/ControlArray.h"
 #include "mirolen/widgets/Form.h"
 
@@ -47,34 +47,9 @@ class OptionForm : public Form {
   void place_below(Button& ok, Button& cancel, double right, double top);
   void input_error(const std::string& text);
 
-  /// The caption of an option and its access key.
-  struct OptionName {
-    const char* caption;
-    char key;
-  };
-  template <class Options>
-  static void name(const Options& options, std::initializer_list<OptionName> names) {
-    int i = Options::LBound();
-    for (const OptionName& told : names) {
-      options(i).Caption = tr(told.caption);
-      options(i++).AccessKey = told.key;
-    }
-  }
-  static void name_marks(const Marks& marks) { name(marks, {{"Hide", 'H'}, {"Show", 'S'}}); }
+  static void name_marks(const Marks& marks) { name(marks, {"Hide", "Show"}); }
   static void show_marks(const Marks& marks, bool shown) { marks(shown ? 1 : 0).Value(true); }
   static bool marks_shown(const Marks& marks) { return marks(1).Value(); }
-  /// Chooses the option of a number; none where there is no such option.
-  template <class Options>
-  static void choose(const Options& options, int number) {
-    for (int i = Options::LBound(); i <= Options::UBound(); ++i) options(i).Value(i == number);
-  }
-  /// The number of the chosen option, or one for none.
-  template <class Options>
-  static std::int16_t chosen(const Options& options, std::int16_t otherwise) {
-    for (int i = Options::LBound(); i <= Options::UBound(); ++i)
-      if (options(i).Value()) return static_cast<std::int16_t>(i);
-    return otherwise;
-  }
   static void show_background(CheckBox& white, Color back);
   static Color background_of(const CheckBox& white);
 

@@ -49,7 +49,6 @@ std::vector<const PageKind*> pages_for(const PropertyPage::Selection& selected) 
 
 PropertyDialog::PropertyDialog(Toolkit& toolkit, const PropertyPage::Selection& selected)
     : Form(toolkit, "Property Pages"), selected_(selected), pages_(make_pages()) {
-  apply.AccessKey = 'y';
   OKbtn.OnClick = [this] {
     if (apply_all()) Hide();
   };

@@ -1,14 +1,13 @@
 #pragma once
 
 #include <functional>
-#include <initializer_list>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "mirolen/automation/ClassInfo.h"
-#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/Rows.h"
+#include "mirolen/dialogs/option_sets.h"
 #include "mirolen/widgets/ControlArray.h"
 
 namespace mirolen {
@@ -66,12 +65,6 @@ class PropertyPage : public Frame {
   virtual bool write_together(Controls) { return true; }
   /// Runs a step that may fail: a preview, or a value that a property cannot hold.
   static void quietly(const std::function<void()>& step);
-
-  template <class Options>
-  static void name(const Options& options, std::initializer_list<const char*> texts) {
-    int i = Options::LBound();
-    for (const char* text : texts) options(i++).Caption = tr(text);
-  }
 
  private:
   using Step = std::function<void(const automation::Object&)>;

@@ -12,12 +12,6 @@ constexpr double preview_side = 1500;
 }  // namespace
 
 ViewOptions::ViewOptions(Toolkit& toolkit, const char* plot) : OptionForm(toolkit), frmplot(this, plot) {
-  lblresx.AccessKey = 'X';
-  lblresy.AccessKey = 'Y';
-  lblscale.AccessKey = 'S';
-  lblalph.AccessKey = 'R';
-  lblthet.AccessKey = 'I';
-  lblphi.AccessKey = 'o';
   talph.OnAngle = [this] { show_grid(); };
   tphi.OnAngle = [this] { show_wafer(); };
   tthet.OnAngle = [this] {

@@ -5,8 +5,6 @@
 namespace mirolen {
 
 frmPlotHist::frmPlotHist(Toolkit& toolkit) : OptionForm(toolkit) {
-  lblresx.AccessKey = 'R';
-  whiteback.AccessKey = 'W';
   frmplot.Move(Rows::gap, Rows::gap);
   Rows rows(frmplot);
   rows.add(lblresx, tresx);

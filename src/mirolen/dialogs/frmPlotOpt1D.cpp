@@ -20,11 +20,8 @@ std::optional<double> number_of(const TextField& field, double stored) {
 }  // namespace
 
 frmPlotOpt1D::frmPlotOpt1D(Toolkit& toolkit) : OptionForm(toolkit) {
-  name(optline, {{"By angle", 'B'}, {"By points", 'p'}});
+  name(optline, {"By angle", "By points"});
   name_marks(optMark);
-  lblangle.AccessKey = 'A';
-  lblstart.AccessKey = 't';
-  lblend.AccessKey = 'E';
   for (int i = 0; i < 2; ++i) {
     optline(i).OnClick = [this] {
       enable_fields();

@@ -6,9 +6,7 @@ namespace mirolen {
 
 frmPlotOpt2DB::frmPlotOpt2DB(Toolkit& toolkit) : ViewOptions(toolkit, "3D Bar Plot") {
   lblresx.Caption = tr("Bar width:");
-  lblresx.AccessKey = 'w';
   lblresy.Caption = tr("Bar depth:");
-  lblresy.AccessKey = 'd';
   place_plot_group();
   place_all(OKbtn, cancel);
   answer_with(OKbtn, cancel);

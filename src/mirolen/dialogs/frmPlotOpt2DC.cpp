@@ -5,8 +5,6 @@
 namespace mirolen {
 
 frmPlotOpt2DC::frmPlotOpt2DC(Toolkit& toolkit) : OptionForm(toolkit) {
-  lbldist.AccessKey = 'I';
-  whiteback.AccessKey = 'W';
   name_options();
   place_groups();
   answer_with(OKbtn, cancel);
@@ -14,9 +12,9 @@ frmPlotOpt2DC::frmPlotOpt2DC(Toolkit& toolkit) : OptionForm(toolkit) {
 }
 
 void frmPlotOpt2DC::name_options() {
-  name(OptQuali, {{"Low", 'L'}, {"High", 'H'}, {"Automatic", 'A'}});
-  name(OptExcon, {{"Exact", 'E'}, {"Converted", 'v'}, {"None", 'N'}});
-  name(Optcol, {{"Black and white", 'B'}, {"Three colors", 'T'}, {"Ten colors", 'c'}});
+  name(OptQuali, {"Low", "High", "Automatic"});
+  name(OptExcon, {"Exact", "Converted", "None"});
+  name(Optcol, {"Black and white", "Three colors", "Ten colors"});
 }
 
 void frmPlotOpt2DC::place_groups() {

@@ -5,8 +5,6 @@
 namespace mirolen {
 
 frmPlotOpt2d::frmPlotOpt2d(Toolkit& toolkit) : OptionForm(toolkit) {
-  lblresx.AccessKey = 'R';
-  whiteback.AccessKey = 'W';
   name_marks(optMark);
   frmplot.Move(Rows::gap, Rows::gap);
   Rows rows(frmplot);

@@ -5,9 +5,6 @@
 namespace mirolen {
 
 frmPlotOpt2ds::frmPlotOpt2ds(Toolkit& toolkit) : OptionForm(toolkit) {
-  lblresx.AccessKey = 'R';
-  lblsigma.AccessKey = 'g';
-  whiteback.AccessKey = 'W';
   name_marks(optMark);
   frmplot.Move(Rows::gap, Rows::gap);
   Rows rows(frmplot);

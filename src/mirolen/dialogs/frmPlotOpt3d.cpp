@@ -3,8 +3,7 @@
 namespace mirolen {
 
 frmPlotOpt3d::frmPlotOpt3d(Toolkit& toolkit) : SurfaceOptions(toolkit, "3D Plot") {
-  whiteback.AccessKey = 'b';
-  name(optPlot, {{"Poly Edge", 'P'}, {"Hidden Wire Frame", 'H'}, {"Wire Frame", 'W'}});
+  name(optPlot, {"Poly Edge", "Hidden Wire Frame", "Wire Frame"});
   Rows rows = place_plot_group();
   rows.add_group(frmtype, optPlot);
   rows.add(whiteback, Rows::option_height);

@@ -5,8 +5,6 @@
 namespace mirolen {
 
 frmPlotOpt3ds::frmPlotOpt3ds(Toolkit& toolkit) : SurfaceOptions(toolkit, "3D Sigma Range Plot") {
-  whiteback.AccessKey = 'b';
-  lblsigma.AccessKey = 'g';
   Rows rows = place_plot_group();
   rows.add(lblsigma, SSigma);
   rows.add(whiteback, Rows::option_height);

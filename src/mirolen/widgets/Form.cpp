@@ -1,5 +1,7 @@
 #include "mirolen/widgets/Form.h"
 
+#include "mirolen/widgets/access_keys.h"
+
 namespace mirolen {
 
 Form::Form(Toolkit& toolkit, std::string_view text) : Captioned(WidgetKind::form, toolkit, text) {
@@ -7,6 +9,7 @@ Form::Form(Toolkit& toolkit, std::string_view text) : Captioned(WidgetKind::form
 }
 
 void Form::Show() {
+  choose_access_keys(*this);
   realize();
   Visible = true;
   try {

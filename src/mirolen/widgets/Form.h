@@ -17,7 +17,7 @@ class Form : public Captioned {
   Button* CancelButton = nullptr;   ///< What Escape presses, and the closing of the window.
   Widget* FirstFocus = nullptr;     ///< What has the focus when the form appears.
 
-  /// Makes the peers, shows the form modally, and comes back when it is hidden.
+  /// Chooses the access keys, makes the peers, shows the form modally, and comes back when it is hidden.
   void Show();
   /// Ends Show.
   void Hide() { Visible = false; }
