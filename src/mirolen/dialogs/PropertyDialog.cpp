@@ -78,7 +78,6 @@ void PropertyDialog::place() {
     right += page->Width + gap;
     height = std::max(height, page->Height.get());
   }
-  for (const auto& page : pages_) page->Height = height;
   Width = std::max(right, 3 * button_width + 4 * gap);
   if (!pages_.empty()) pages_.back()->Width = Width - gap - pages_.back()->Left;
   Height = gap + height + gap + button_height + gap;
