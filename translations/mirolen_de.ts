@@ -630,6 +630,10 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>mm je Einheit des Wertes</translation>
     </message>
     <message>
+        <source>mm, not more than the wafer diameter</source>
+        <translation>mm, höchstens der Waferdurchmesser</translation>
+    </message>
+    <message>
         <source>mm, within the test diameter</source>
         <translation>mm, innerhalb des Messdurchmessers</translation>
     </message>

@@ -271,6 +271,31 @@ TEST_F(PropertyDialogTest, LeavesEachPageTheHeightOfItsRows) {
   }
 }
 
+TEST_F(PropertyDialogTest, TellsTheUnitAndTheRangeOfEachField) {
+  const std::string millimetres = "mm, more than 0", degrees = "degrees, 0 to 360";
+  const std::string deviations = "standard deviations", height = "height of the surface";
+  const Names view{millimetres, millimetres, height, degrees, degrees, degrees};
+  Names sigma_view = view;
+  sigma_view.push_back(deviations);
+  const std::map<std::string, Names> tips{{"LineScan", {degrees}},
+                                          {"Plot2D", {millimetres}},
+                                          {"Plot2DS", {millimetres, deviations}},
+                                          {"Plot2DC", {"unit of the interval, more than 0"}},
+                                          {"Plot3D", view},
+                                          {"Plot3DS", sigma_view},
+                                          {"Histogram", {"classes, more than 0"}}};
+  for (FakeControl& fake : all_fakes()) {
+    const PropertyDialog dialog(toolkit, {fake.object()});
+    Names told;
+    for (const Widget* widget : below(dialog))
+      if (widget->kind() == WidgetKind::text_field) told.push_back(widget->ToolTipText);
+    Names expected{millimetres, "mm, not more than the wafer diameter"};
+    const Names& own = tips.at(fake.object().info->name);
+    expected.insert(expected.end(), own.begin(), own.end());
+    EXPECT_EQ(told, expected) << fake.object().info->name;
+  }
+}
+
 TEST_F(PropertyDialogTest, CutsNoCaption) {
   for (FakeControl& fake : all_fakes()) expect_whole_captions(PropertyDialog(toolkit, {fake.object()}));
 }

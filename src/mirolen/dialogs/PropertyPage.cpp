@@ -1,6 +1,8 @@
 #include "mirolen/dialogs/PropertyPage.h"
 
+#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/input_checks.h"
+#include "mirolen/dialogs/input_fields.h"
 #include "mirolen/render/StringFormat.h"
 
 namespace mirolen {
@@ -12,13 +14,13 @@ using automation::Variant;
 
 double number_of(const Variant& value) { return std::get<double>(converted(value, Type::real)); }
 
-bool is_angle(const std::string& text) {
-  return !text.empty() && IsInRangeOrOpen(text, -1, 361) && IsPlainInteger(text);
-}
+bool is_angle(const std::string& text) { return !text.empty() && IsAngleOrOpen(text); }
 
 }  // namespace
 
 bool PropertyPage::is_decimal(const std::string& text) { return IsPlainDecimal(text, false); }
+
+std::string PropertyPage::above_zero(const std::string& unit) { return unit + tr(", more than ") + "0"; }
 
 void PropertyPage::quietly(const std::function<void()>& step) {
   try {
@@ -65,7 +67,8 @@ void PropertyPage::shows(TextField& field, const char* property, Check check, do
   });
 }
 
-void PropertyPage::number(TextField& field, const char* property, double otherwise) {
+void PropertyPage::number(TextField& field, const char* property, const std::string& tip, double otherwise) {
+  field.ToolTipText = tip;
   shows(field, property, is_decimal, otherwise);
   write_.push_back(
       [=, &field](const automation::Object& control) { let(control, property, number_in(field.Text())); });
@@ -73,6 +76,7 @@ void PropertyPage::number(TextField& field, const char* property, double otherwi
 
 void PropertyPage::angle(TextField& field, const char* property, double otherwise,
                          std::function<void()> then) {
+  field.ToolTipText = told_range_of_angles();
   shows(field, property, is_angle, otherwise, std::move(then));
   write_.push_back(
       [=, &field](const automation::Object& control) { let(control, property, number_in(field.Text())); });

@@ -40,8 +40,9 @@ class PropertyPage : public Frame {
 
   // Each of these binds a field to a property: both ways, and to the changed flag.
 
-  /// A decimal number. Text that is none becomes a number of its own.
-  void number(TextField& field, const char* property, double otherwise);
+  /// A decimal number, with its unit and range in the tool tip. Text that is none becomes a number of its
+  /// own.
+  void number(TextField& field, const char* property, const std::string& tip, double otherwise);
   /// Whole degrees from 0 to 360.
   void angle(TextField& field, const char* property, double otherwise, std::function<void()> then = {});
   /// A box that is ticked for one of two values.
@@ -58,6 +59,7 @@ class PropertyPage : public Frame {
 
   using Check = bool (*)(const std::string& text);
   static bool is_decimal(const std::string& text);
+  static std::string above_zero(const std::string& unit);
   /// Reads a field from a property, and puts a number in the place of text that fails the check.
   void shows(TextField& field, const char* property, Check check, double otherwise,
              std::function<void()> then = {});

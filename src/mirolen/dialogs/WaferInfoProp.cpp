@@ -30,6 +30,8 @@ WaferInfoProp::WaferInfoProp(Widget* container) : PropertyPage(container, "Wafer
   rows.add(FNLabel, Rows::option_height);
   rows.add(showLeg, Rows::option_height);
 
+  txtWaferDiameter.ToolTipText = above_zero(tr("mm"));
+  txtTestDiameter.ToolTipText = tr("mm, not more than the wafer diameter");
   shows(txtWaferDiameter, "WaferDiameter", is_decimal, 200);
   shows(txtTestDiameter, "TestDiameter", is_decimal, 195);
   choice(nfbox, "WaferStyle", [this] { show_mark(); });

@@ -73,6 +73,8 @@ bool IsPlainInteger(std::string_view text) {
   return text.empty() || (numeric(text) && text.find_first_of("eE,.dD") == std::string_view::npos);
 }
 
+bool IsAngleOrOpen(std::string_view text) { return IsInRangeOrOpen(text, -1, 361) && IsPlainInteger(text); }
+
 bool IsPlainDecimal(std::string_view text, bool minus_allowed) {
   if (text.empty()) return false;
   if (!minus_allowed && text == "-") return false;

@@ -14,6 +14,9 @@ bool IsInRangeOrOpen(std::string_view text, double low, double high);
 /// True for an empty text and for a number without exponent and separator.
 bool IsPlainInteger(std::string_view text);
 
+/// True for an empty text and for whole degrees from 0 to 360.
+bool IsAngleOrOpen(std::string_view text);
+
 /// True for a number without an exponent. A lone minus is none, with and without the flag.
 bool IsPlainDecimal(std::string_view text, bool minus_allowed);
 

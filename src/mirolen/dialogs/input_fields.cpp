@@ -26,9 +26,11 @@ void NumberField::text_changed() {
   }
 }
 
+std::string told_range_of_angles() { return tr("degrees, 0 to 360"); }
+
 AngleField::AngleField(Widget* container, std::string otherwise)
     : TextField(container), last_good_(std::move(otherwise)) {
-  ToolTipText = tr("degrees, 0 to 360");
+  ToolTipText = told_range_of_angles();
   OnChange = [this] { text_changed(); };
 }
 
@@ -36,7 +38,7 @@ void AngleField::show(std::int16_t value) { Text(std::to_string(value)); }
 
 void AngleField::text_changed() {
   const std::string text = Text();
-  if (!IsInRangeOrOpen(text, -1, 361) || !IsPlainInteger(text)) return Text(last_good_);
+  if (!IsAngleOrOpen(text)) return Text(last_good_);
   if (!text.empty()) last_good_ = text;
   value_ = to_int16(number_in(text));
   if (OnAngle) OnAngle();

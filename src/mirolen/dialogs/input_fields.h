@@ -24,6 +24,9 @@ class NumberField : public TextField {
   double value_ = 0, previous_ = 0;
 };
 
+/// The tool tip of a field for an angle.
+std::string told_range_of_angles();
+
 /// A field for whole degrees from 0 to 360. Any other text goes back to the last number that was good, or to
 /// one of its own where there was none. Empty stays empty and is 0.
 class AngleField : public TextField {

@@ -1,5 +1,7 @@
 #include "mirolen/dialogs/plan_pages.h"
 
+#include "mirolen/core/translation.h"
+
 namespace mirolen {
 namespace {
 
@@ -17,7 +19,7 @@ Plot2DProp::Plot2DProp(Widget* container) : PropertyPage(container, "2D Plot") {
   Rows rows(*this);
   rows.add(lblResolution, txtResolution);
   rows.add(chkShowSites, Rows::option_height);
-  number(txtResolution, "Resolution", 5);
+  number(txtResolution, "Resolution", above_zero(tr("mm")), 5);
   tick(chkShowSites, "ShowSites", show_sites, hide_sites);
 }
 
@@ -26,8 +28,8 @@ Plot2DSProp::Plot2DSProp(Widget* container) : PropertyPage(container, "2D Sigma 
   rows.add(lblResolution, txtResolution);
   rows.add(lblSigmaRange, txtSigmaRange);
   rows.add(chkShowSites, Rows::option_height);
-  number(txtResolution, "Resolution", 5);
-  number(txtSigmaRange, "SigmaRange", 0.5);
+  number(txtResolution, "Resolution", above_zero(tr("mm")), 5);
+  number(txtSigmaRange, "SigmaRange", tr("standard deviations"), 0.5);
   tick(chkShowSites, "ShowSites", show_sites, hide_sites);
 }
 
@@ -42,7 +44,7 @@ Plot2DCProp::Plot2DCProp(Widget* container) : PropertyPage(container, "2D Contou
   Rows beside(*this, Rows::group_width, Rows::group_width);
   beside.add_group(frmmark, OptExcon);
   beside.add_group(frmcol, Optcol);
-  number(txtInterval, "Interval", 1);
+  number(txtInterval, "Interval", above_zero(tr("unit of the interval")), 1);
   tick(chkPercent, "IntervalInPercent", in_percent, in_unit);
   choice(Optcol, "PlotColored");
   choice(OptQuali, "Resolution");
@@ -54,7 +56,7 @@ HistogrammProp::HistogrammProp(Widget* container) : PropertyPage(container, "His
   Rows rows(*this);
   rows.add(lblResolution, txtResolution);
   rows.add_group(frmplot, optPlot);
-  number(txtResolution, "Resolution", 0.01);
+  number(txtResolution, "Resolution", above_zero(tr("classes")), 0.01);
   choice(optPlot, "PlotType");
 }
 

@@ -1,5 +1,6 @@
 #include "mirolen/dialogs/view_pages.h"
 
+#include "mirolen/core/translation.h"
 #include "mirolen/dialogs/input_checks.h"
 #include "mirolen/dialogs/view_preview.h"
 
@@ -20,9 +21,9 @@ ViewPage::ViewPage(Widget* container, const char* text)
   rows.add(lblWaferRotation, txtWaferRotation);
   beside.add_picture(Plot, preview_side);
 
-  number(txtXResolution, "XResolution", 5);
-  number(txtYResolution, "YResolution", 5);
-  number(txtPlotScale, "PlotScale", 40);
+  number(txtXResolution, "XResolution", above_zero(tr("mm")), 5);
+  number(txtYResolution, "YResolution", above_zero(tr("mm")), 5);
+  number(txtPlotScale, "PlotScale", tr("height of the surface"), 40);
   angle(txtGridInclination, "GridInclination", 35, [this] { show_grid(); });
   angle(txtGridRotation, "GridRotation", 40, [this] { show_grid(); });
   angle(txtWaferRotation, "WaferRotation", 40);
@@ -40,7 +41,7 @@ Plot3DProp::Plot3DProp(Widget* container) : ViewPage(container, "3D Plot") {
 
 Plot3DSProp::Plot3DSProp(Widget* container) : ViewPage(container, "3D Sigma Range Plot") {
   rows.add(lblSigmaRange, txtSigmaRange);
-  number(txtSigmaRange, "SigmaRange", 0.5);
+  number(txtSigmaRange, "SigmaRange", tr("standard deviations"), 0.5);
 }
 
 }  // namespace mirolen
