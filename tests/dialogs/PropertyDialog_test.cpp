@@ -238,19 +238,6 @@ TEST_F(PropertyDialogTest, AnswersTheKeyboard) {
   EXPECT_EQ(dialog.CancelButton, &dialog.cancel);
 }
 
-/// One control of each class that has a page of its own.
-std::vector<FakeControl> all_fakes() {
-  std::vector<FakeControl> fakes;
-  fakes.push_back(fake_LineScan());
-  fakes.push_back(fake_Plot2D());
-  fakes.push_back(fake_Plot2DS());
-  fakes.push_back(fake_Plot2DC());
-  fakes.push_back(fake_Plot3D());
-  fakes.push_back(fake_Plot3DS());
-  fakes.push_back(fake_Histogram());
-  return fakes;
-}
-
 TEST_F(PropertyDialogTest, FitsASmallScreen) {
   for (FakeControl& fake : all_fakes()) {
     const PropertyDialog dialog(toolkit, {fake.object()});

@@ -2,11 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
-
 #include "fake_control.h"
 #include "mirolen/widgets/Form.h"
 #include "mirolen/widgets/Headless.h"
+#include "support/CommaInForce.h"
 
 namespace mirolen {
 namespace {
@@ -189,9 +188,9 @@ TEST_F(WaferInfoPage, ShowsTheMarkThatIsChosen) {
 }
 
 TEST_F(WaferInfoPage, ReadsAndShowsTheDecimalCommaOfItsLocale) {
-  ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
   control.put("WaferDiameter", 150.5);
   {
+    const CommaInForce comma;
     WaferInfoProp here(&form);
     here.SelectionChanged({control.object()});
     EXPECT_EQ(here.txtWaferDiameter.Text(), "150,5");
@@ -200,8 +199,6 @@ TEST_F(WaferInfoPage, ReadsAndShowsTheDecimalCommaOfItsLocale) {
     here.txtTestDiameter.Text("149,25");
     EXPECT_TRUE(here.ApplyChanges());
   }
-  std::setlocale(LC_ALL, "C");
-  const wafer made_as_before;
   EXPECT_EQ(control.writes, all(150.5, 149.25, 1, false));
 }
 

@@ -80,4 +80,16 @@ FakeControl fake_Histogram() {
   return std::move(fake_of_all("Histogram").with("Resolution", 10.0).with("PlotType", std::int32_t{1}));
 }
 
+std::vector<FakeControl> all_fakes() {
+  std::vector<FakeControl> fakes;
+  fakes.push_back(fake_LineScan());
+  fakes.push_back(fake_Plot2D());
+  fakes.push_back(fake_Plot2DS());
+  fakes.push_back(fake_Plot2DC());
+  fakes.push_back(fake_Plot3D());
+  fakes.push_back(fake_Plot3DS());
+  fakes.push_back(fake_Histogram());
+  return fakes;
+}
+
 }  // namespace mirolen

@@ -42,5 +42,7 @@ FakeControl fake_Plot2DC();
 FakeControl fake_Plot3D();
 FakeControl fake_Plot3DS();
 FakeControl fake_Histogram();
+/// One of each class that has a page of its own.
+std::vector<FakeControl> all_fakes();
 
 }  // namespace mirolen

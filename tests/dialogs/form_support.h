@@ -21,15 +21,17 @@
 
 namespace mirolen {
 
+inline wafer wafer_of_200_mm() {
+  wafer data;
+  data.WafDiam = data.test_diam = 200;
+  return data;
+}
+
 /// A form with usual values, for a test diameter of 200, in the hands of a user.
 template <class Kind>
 class ShownForm : public testing::Test {
  protected:
-  ShownForm() {
-    data.WafDiam = 200;
-    data.test_diam = 200;
-    form.Visible = true;
-  }
+  ShownForm() { form.Visible = true; }
 
   /// Presses OK. @return whether that hid the form.
   bool ok() {
@@ -49,7 +51,7 @@ class ShownForm : public testing::Test {
   }
 
   HeadlessToolkit toolkit;
-  wafer data;
+  wafer data = wafer_of_200_mm();
   Kind form{toolkit};
 };
 

@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
-
-#include "mirolen/core/wafer.h"
+#include "support/CommaInForce.h"
 
 namespace mirolen {
 namespace {
@@ -143,19 +141,7 @@ TEST(NumberFieldCheck, NothingLiesInAnEmptyInterval) {
 
 // ---- Decimal comma ----
 
-/// A locale with a decimal comma for one test; afterwards everything is as before.
-class InputWithDecimalComma : public testing::Test {
- protected:
-  void SetUp() override {
-    ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr)
-        << "needs the locale de_DE.UTF-8: localedef -i de_DE -f UTF-8 de_DE.UTF-8";
-    const wafer made_in_this_locale;
-  }
-  void TearDown() override {
-    std::setlocale(LC_ALL, "C");
-    const wafer made_as_before;
-  }
-};
+class InputWithDecimalComma : CommaInForce, public testing::Test {};
 
 TEST_F(InputWithDecimalComma, TheCommaSeparates) {
   EXPECT_FALSE(IsInRangeOrOpen("1,5", 0, 1.5));

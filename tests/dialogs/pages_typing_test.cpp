@@ -1,14 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <cmath>
 #include <map>
 
 #include "fake_control.h"
-#include "mirolen/core/wafer.h"
 #include "mirolen/dialogs/input_checks.h"
 #include "mirolen/widgets/Headless.h"
 #include "page_monkey.h"
+#include "support/CommaInForce.h"
 #include "support/site_support.h"
 
 namespace mirolen {
@@ -42,7 +41,7 @@ bool is_valid(const std::string& class_name, const std::string& property, const 
 
 class PagesUnderRandomTyping : public RandomInput {
  protected:
-  void type_into_the_pages_of(FakeControl control) {
+  void type_into_the_pages_of(FakeControl& control) {
     const std::string name = control.object().info->name;
     SCOPED_TRACE(name);
     HeadlessToolkit toolkit;
@@ -66,19 +65,15 @@ class PagesUnderRandomTyping : public RandomInput {
   }
 
   void type_into_all() {
-    for (auto* make :
-         {fake_LineScan, fake_Plot2D, fake_Plot2DS, fake_Plot2DC, fake_Plot3D, fake_Plot3DS, fake_Histogram})
-      type_into_the_pages_of(make());
+    for (FakeControl& control : all_fakes()) type_into_the_pages_of(control);
   }
 };
 
 TEST_F(PagesUnderRandomTyping, HandValidValuesAloneToTheControl) { type_into_all(); }
 
 TEST_F(PagesUnderRandomTyping, HandValidValuesAloneToTheControlWithADecimalComma) {
-  ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
+  const CommaInForce comma;
   type_into_all();
-  std::setlocale(LC_ALL, "C");
-  const wafer made_as_before;
 }
 
 }  // namespace

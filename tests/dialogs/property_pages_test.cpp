@@ -1,15 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <functional>
 
 #include "fake_control.h"
-#include "mirolen/core/wafer.h"
 #include "mirolen/dialogs/plan_pages.h"
 #include "mirolen/dialogs/view_pages.h"
 #include "mirolen/dialogs/view_preview.h"
 #include "mirolen/widgets/Form.h"
 #include "mirolen/widgets/Headless.h"
+#include "support/CommaInForce.h"
 
 namespace mirolen {
 namespace {
@@ -343,9 +342,8 @@ TEST_F(Plot3DSPage, HasASigmaRange) {
 }
 
 TEST_F(Plot2DSPage, HasItsNumbersInTheLocaleOfTheUser) {
-  ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
   {
-    const wafer made_in_this_locale;
+    const CommaInForce comma;
     control.put("Resolution", 2.5);
     select();
     EXPECT_EQ(page.txtResolution.Text(), "2,5");
@@ -357,8 +355,6 @@ TEST_F(Plot2DSPage, HasItsNumbersInTheLocaleOfTheUser) {
     EXPECT_EQ(page.txtSigmaRange.Text(), "0,5");
     page.ApplyChanges();
   }
-  std::setlocale(LC_ALL, "C");
-  const wafer made_as_before;
   EXPECT_EQ(sorted(control.writes),
             (Writes{{"Resolution", 3.5}, {"ShowSites", std::int32_t{0}}, {"SigmaRange", 0.5}}));
 }

@@ -1,23 +1,14 @@
-#include <clocale>
-#include <cstdlib>
-#include <random>
-
 #include "form_support.h"
+#include "support/CommaInForce.h"
+#include "support/site_support.h"
 
 namespace mirolen {
 namespace {
 
-unsigned long long wanted_seed() {
-  if (const char* told = std::getenv("MIROLEN_SEED")) return std::strtoull(told, nullptr, 10);
-  return std::random_device{}();
-}
-
 /// A user without a plan: types, chooses, ticks and presses.
 class Monkey {
  public:
-  Monkey(Form& form, unsigned long long seed) : form_(form), random_(seed) {
-    for (Widget* widget : below(form)) widgets_.push_back(widget);
-  }
+  Monkey(Form& form, Random& random) : form_(form), widgets_(below(form)), random_(random) {}
 
   void act() {
     Widget* widget = widgets_[below_limit(widgets_.size())];
@@ -42,7 +33,7 @@ class Monkey {
 
   Form& form_;
   std::vector<Widget*> widgets_;
-  std::mt19937_64 random_;
+  Random& random_;
 };
 
 bool between(double low, double value, double high) { return low < value && value < high; }
@@ -90,60 +81,40 @@ bool within(const frmPlotOpt1D& f) {
 }
 
 template <class Kind>
-class Typing : public ShownForm<Kind> {
+class Typing : public RandomInput {
  protected:
   /// Confirmed forms of many that were filled at random.
   int confirmed_forms() {
     int confirmed = 0;
-    const unsigned long long seed = wanted_seed();
-    testing::Test::RecordProperty("seed", std::to_string(seed));
-    for (unsigned long long round = 0; round < 300; ++round) {
+    for (int round = rounds(300); round > 0; --round) {
       HeadlessToolkit own;
       Kind form(own);
-      fill(form, this->data);
+      fill(form, data_);
       form.Visible = true;
-      Monkey monkey(form, seed + round);
+      Monkey monkey(form, random);
       for (int i = 0; i < 20; ++i) monkey.act();
       form.DefaultButton->OnClick();
-      EXPECT_EQ(form.Redraw(), !form.Visible) << "MIROLEN_SEED=" << seed;
-      if (!form.Redraw()) {
-        EXPECT_FALSE(own.messages.empty()) << "MIROLEN_SEED=" << seed;
-        continue;
-      }
-      ++confirmed;
-      EXPECT_TRUE(within(form)) << "MIROLEN_SEED=" << seed << " round " << round;
+      EXPECT_EQ(form.Redraw(), !form.Visible);
+      EXPECT_TRUE(form.Redraw() ? within(form) : !own.messages.empty()) << round;
+      confirmed += form.Redraw();
     }
     return confirmed;
   }
+
+ private:
+  wafer data_ = wafer_of_200_mm();
 };
 TYPED_TEST_SUITE(Typing, AllForms);
 
 TYPED_TEST(Typing, NeverCrashesAndOkKeepsTheLimits) { EXPECT_GT(this->confirmed_forms(), 0); }
 
 TYPED_TEST(Typing, NorWithADecimalComma) {
-  ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr)
-      << "needs the locale de_DE.UTF-8: localedef -i de_DE -f UTF-8 de_DE.UTF-8";
-  {
-    const wafer made_in_this_locale;
-    EXPECT_GT(this->confirmed_forms(), 0);
-  }
-  std::setlocale(LC_ALL, "C");
-  const wafer made_as_before;
+  const CommaInForce comma;
+  EXPECT_GT(this->confirmed_forms(), 0);
 }
 
 /// A form in a locale with a decimal comma.
-class CommaForm : public testing::Test {
- protected:
-  void SetUp() override {
-    ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr)
-        << "needs the locale de_DE.UTF-8: localedef -i de_DE -f UTF-8 de_DE.UTF-8";
-    const wafer made_in_this_locale;
-  }
-  void TearDown() override {
-    std::setlocale(LC_ALL, "C");
-    const wafer made_as_before;
-  }
-};
+class CommaForm : CommaInForce, public testing::Test {};
 
 TEST_F(CommaForm, ShowsAndTakesTheComma) {
   HeadlessToolkit toolkit;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <stdexcept>
 #include <string_view>
@@ -15,6 +16,9 @@
 #include "mirolen/qt/Plot3DS.h"
 
 namespace mirolen::qt_test {
+
+inline constexpr std::array nine_faces{"Plot2D", "Plot2DS", "Plot2DC",   "Plot2DN", "Plot2DB",
+                                       "Plot3D", "Plot3DS", "Histogram", "LineScan"};
 
 /// A face by the name of its class.
 inline std::unique_ptr<qt::PlotWidget> make_face(std::string_view name) {

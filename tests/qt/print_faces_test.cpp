@@ -125,9 +125,7 @@ TEST_P(PrintingFace, OutlivesATargetThatFails) {
   EXPECT_EQ(printer->taken(), page);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, PrintingFace,
-                         testing::Values("Plot2D", "Plot2DS", "Plot2DC", "Plot2DN", "Plot2DB", "Plot3D",
-                                         "Plot3DS", "Histogram", "LineScan"),
+INSTANTIATE_TEST_SUITE_P(All, PrintingFace, testing::ValuesIn(nine_faces),
                          [](const auto& param) { return std::string(param.param); });
 
 struct OwnSlot {

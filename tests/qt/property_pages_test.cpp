@@ -37,13 +37,6 @@ void click(const Widget& widget) {
   QTest::mouseClick(&view, Qt::LeftButton, {}, {8, view.height() / 2});
 }
 
-void type(QLineEdit& edit, const QString& text) {
-  edit.setFocus();
-  QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
-  if (text.isEmpty()) QTest::keyClick(&edit, Qt::Key_Delete);
-  QTest::keyClicks(&edit, text);
-}
-
 // ---- Fields ----
 
 struct Field {
@@ -95,8 +88,8 @@ TEST_P(PageField, PutsItsOwnNumberInThePlaceOfBadText) {
   PropertyDialog dialog(face->toolkit(), {face->by_name()});
   show_to(dialog, [&] {
     for (const char* bad : {"", "x", "-", "e"}) {
-      type(edit(dialog), GetParam().typed);
-      type(edit(dialog), bad);
+      enter(edit(dialog), GetParam().typed);
+      enter(edit(dialog), bad);
       EXPECT_EQ(edit(dialog).text(), GetParam().otherwise) << bad;
     }
   });
@@ -107,7 +100,7 @@ TEST_P(PageField, IsAppliedByItsButton) {
   show_to(dialog, [&] {
     auto& apply = seen<QPushButton>(dialog.apply);
     EXPECT_FALSE(apply.isEnabled());
-    type(edit(dialog), GetParam().typed);
+    enter(edit(dialog), GetParam().typed);
     EXPECT_TRUE(apply.isEnabled());
     click(dialog.apply);
     EXPECT_FALSE(apply.isEnabled());
@@ -122,7 +115,7 @@ TEST_P(PageField, IsWrittenByOkAndReturnAlone) {
   const auto after = [&](const std::function<void(PropertyDialog&)>& close) {
     PropertyDialog dialog(face->toolkit(), {face->by_name()});
     show_to(dialog, [&] {
-      type(edit(dialog), GetParam().typed);
+      enter(edit(dialog), GetParam().typed);
       close(dialog);
       EXPECT_FALSE(dialog.Visible);
     });
@@ -143,11 +136,11 @@ TEST_P(PageField, TakesTheCommaOfItsLocale) {
   here->show();
   PropertyDialog dialog(here->toolkit(), {here->by_name()});
   show_to(dialog, [&] {
-    type(edit(dialog), "7.5");
+    enter(edit(dialog), "7.5");
     EXPECT_NE(edit(dialog).text(), "7.5");
-    type(edit(dialog), "");
+    enter(edit(dialog), "");
     EXPECT_EQ(edit(dialog).text(), local(GetParam().otherwise));
-    type(edit(dialog), local(GetParam().typed));
+    enter(edit(dialog), local(GetParam().typed));
     click(dialog.OKbtn);
   });
   EXPECT_EQ(here->property(GetParam().property).toDouble(), QString(GetParam().typed).toDouble());
@@ -199,9 +192,7 @@ TEST_P(PageChoice, IsMadeByTheMouse) {
 // ---- The dialog ----
 
 class Properties : public testing::TestWithParam<const char*> {};
-INSTANTIATE_TEST_SUITE_P(Nine, Properties,
-                         testing::Values("Plot2D", "Plot2DS", "Plot2DC", "Plot2DN", "Plot2DB", "Plot3D",
-                                         "Plot3DS", "Histogram", "LineScan"));
+INSTANTIATE_TEST_SUITE_P(Nine, Properties, testing::ValuesIn(nine_faces));
 
 TEST_P(Properties, AreAllReachedByTheTabKey) {
   const auto face = make_face(GetParam());
@@ -210,7 +201,7 @@ TEST_P(Properties, AreAllReachedByTheTabKey) {
   show_to(dialog, [&] {
     QWidget& window = seen(dialog);
     EXPECT_EQ(QApplication::focusWidget(), &seen(on<WaferInfoProp>(dialog).txtWaferDiameter));
-    type(seen<QLineEdit>(on<WaferInfoProp>(dialog).txtWaferDiameter), "250");
+    enter(seen<QLineEdit>(on<WaferInfoProp>(dialog).txtWaferDiameter), "250");
     std::set<const QWidget*> visited;
     while (visited.insert(QApplication::focusWidget()).second)
       QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
@@ -231,7 +222,7 @@ TEST(SeveralProperties, AreWrittenToEachControl) {
   second.setWaferDiameter(300);
   PropertyDialog dialog(first.toolkit(), {first.by_name(), second.by_name()});
   show_to(dialog, [&] {
-    type(seen<QLineEdit>(on<Plot2DProp>(dialog).txtResolution), "6.5");
+    enter(seen<QLineEdit>(on<Plot2DProp>(dialog).txtResolution), "6.5");
     click(dialog.OKbtn);
   });
   EXPECT_EQ(first.Resolution(), 6.5);
@@ -245,7 +236,7 @@ TEST(WaferProperties, RefuseATestDiameterBeyondTheWafer) {
   PropertyDialog dialog(face.toolkit(), {face.by_name()});
   QStringList told;
   show_to(dialog, [&] {
-    type(seen<QLineEdit>(on<WaferInfoProp>(dialog).txtTestDiameter), "201");
+    enter(seen<QLineEdit>(on<WaferInfoProp>(dialog).txtTestDiameter), "201");
     click(on<WaferInfoProp>(dialog).nfbox(2));
     QTimer::singleShot(0, [&] {
       auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QTest>
-#include <clocale>
 
 #include "mirolen/qt/translate.h"
 
@@ -36,17 +35,6 @@ ShownPlot::ShownPlot() {
   QTest::qWait(0);
   load_slope(face);
   face.Plot();
-}
-
-CommaInForce::CommaInForce() : before_(std::setlocale(LC_ALL, nullptr)) {
-  EXPECT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr)
-      << "needs the locale de_DE.UTF-8: localedef -i de_DE -f UTF-8 de_DE.UTF-8";
-  const wafer made_in_this_locale;
-}
-
-CommaInForce::~CommaInForce() {
-  std::setlocale(LC_ALL, before_.c_str());
-  const wafer made_as_before;
 }
 
 TemporaryFile::TemporaryFile(const QByteArray& content, const QString& name)

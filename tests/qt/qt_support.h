@@ -9,6 +9,7 @@
 
 #include "mirolen/qt/ImageSurface.h"
 #include "mirolen/qt/Plot2D.h"
+#include "support/CommaInForce.h"
 
 namespace mirolen::qt_test {
 
@@ -30,16 +31,6 @@ struct ShownPlot {
   std::shared_ptr<const Image> rendering() { return face.control().RePlot.Picture; }
 
   qt::Plot2D face;
-};
-
-/// A locale with a decimal comma, as QApplication takes it from the system.
-class CommaInForce {
- public:
-  CommaInForce();
-  ~CommaInForce();
-
- private:
-  const std::string before_;
 };
 
 /// A file that goes with its directory.

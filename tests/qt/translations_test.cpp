@@ -142,9 +142,7 @@ TEST_P(FacesInGerman, CutNoText) {
   QTest::qWait(0);
   EXPECT_EQ(cut_texts(*face), Texts());
 }
-INSTANTIATE_TEST_SUITE_P(Nine, FacesInGerman,
-                         testing::Values("Plot2D", "Plot2DS", "Plot2DC", "Plot2DN", "Plot2DB", "Plot3D",
-                                         "Plot3DS", "Histogram", "LineScan"));
+INSTANTIATE_TEST_SUITE_P(Nine, FacesInGerman, testing::ValuesIn(nine_faces));
 
 // ---- Forms ----
 
