@@ -9,11 +9,6 @@
 #include "mirolen/render/StringFormat.h"
 
 namespace mirolen {
-namespace {
-
-constexpr double button_width = 1320, button_height = 375;
-
-}  // namespace
 
 void OptionForm::begin_with(wafer& shown) {
   wafer_ = &shown;
@@ -61,17 +56,17 @@ void OptionForm::answer_with(Button& ok, Button& cancel) {
 
 void OptionForm::place_at_right(Button& ok, Button& cancel, const Widget& group) {
   const double left = group.Left + group.Width + Rows::gap;
-  ok.Move(left, group.Top + 90, button_width, button_height);
-  cancel.Move(left, ok.Top + ok.Height + Rows::gap, button_width, button_height);
-  Width = left + button_width + Rows::gap;
+  ok.Move(left, group.Top + 90, Rows::button_width, Rows::button_height);
+  cancel.Move(left, ok.Top + ok.Height + Rows::gap, Rows::button_width, Rows::button_height);
+  Width = left + Rows::button_width + Rows::gap;
   Height = group.Top + group.Height + Rows::gap;
 }
 
 void OptionForm::place_below(Button& ok, Button& cancel, double right, double top) {
-  cancel.Move(right - button_width, top, button_width, button_height);
-  ok.Move(cancel.Left - Rows::gap - button_width, top, button_width, button_height);
+  cancel.Move(right - Rows::button_width, top, Rows::button_width, Rows::button_height);
+  ok.Move(cancel.Left - Rows::gap - Rows::button_width, top, Rows::button_width, Rows::button_height);
   Width = right + Rows::gap;
-  Height = top + button_height + Rows::gap;
+  Height = top + Rows::button_height + Rows::gap;
 }
 
 void OptionForm::show_background(CheckBox& white, Color back) { white.Value(back == QBColor(15)); }

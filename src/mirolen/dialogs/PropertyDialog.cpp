@@ -18,8 +18,6 @@ bool serves(const PageKind& kind, const automation::Object& control) {
   return std::find(kind.classes.begin(), kind.classes.end(), control.info->name) != kind.classes.end();
 }
 
-constexpr double button_width = 1260, button_height = 375;
-
 }  // namespace
 
 const std::vector<PageKind>& page_kinds() {
@@ -71,7 +69,7 @@ PropertyDialog::Pages PropertyDialog::make_pages() {
 }
 
 void PropertyDialog::place() {
-  constexpr double gap = Rows::gap;
+  constexpr double gap = Rows::gap, button_width = Rows::button_width, button_height = Rows::button_height;
   double right = gap, height = 0;
   for (const auto& page : pages_) {
     page->Move(right, gap);

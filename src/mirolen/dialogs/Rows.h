@@ -10,6 +10,7 @@ namespace mirolen {
 class Rows {
  public:
   static constexpr double gap = 120, label_width = 1560, field_width = 960;
+  static constexpr double button_width = 1320, button_height = 375;
   static constexpr double group_width = gap + label_width + field_width + gap;
 
   explicit Rows(Frame& group, double width = group_width, double left = 0);

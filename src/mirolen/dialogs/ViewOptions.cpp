@@ -5,12 +5,6 @@
 #include "mirolen/dialogs/view_preview.h"
 
 namespace mirolen {
-namespace {
-
-constexpr double preview_side = 1500;
-
-}  // namespace
-
 ViewOptions::ViewOptions(Toolkit& toolkit, const char* plot) : OptionForm(toolkit), frmplot(this, plot) {
   talph.OnAngle = [this] { show_grid(); };
   tphi.OnAngle = [this] { show_wafer(); };

@@ -4,6 +4,7 @@
 
 #include "mirolen/core/translation.h"
 #include "mirolen/core/version.h"
+#include "mirolen/dialogs/Rows.h"
 #include "mirolen/dialogs/control_icons.h"
 
 namespace mirolen {
@@ -30,7 +31,7 @@ frmAbout::frmAbout(Toolkit& toolkit) : Form(toolkit, "Sonvera.OCX ActiveX Contro
   lblTitle.Font = FontSpec{.bold = true};
   lblVersion.Move(960, 570, 4200, 270);
   lblDescription.Move(960, 960, 4200, 600);
-  cmdOK.Move(4020, 1785, 1140, 375);
+  cmdOK.Move(Width - 240 - Rows::button_width, 1785, Rows::button_width, Rows::button_height);
 
   const Version running = version();
   lblVersion.Caption = tr("Version ") + std::to_string(running.major) + "." + std::to_string(running.minor);

@@ -5,12 +5,6 @@
 #include "mirolen/dialogs/view_preview.h"
 
 namespace mirolen {
-namespace {
-
-constexpr double preview_side = 1500;
-
-}  // namespace
-
 ViewPage::ViewPage(Widget* container, const char* text)
     : PropertyPage(container, text), rows(*this), beside(*this, Rows::group_width, Rows::group_width) {
   rows.add(lblXResolution, txtXResolution);
