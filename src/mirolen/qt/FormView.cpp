@@ -102,7 +102,7 @@ void FormView::fit() {
 
 void FormView::run() {
   fit();
-  name_default_button();
+  mark_default_button();
   take_focus();
   const QPointer<FormView> alive(this);
   qApp->installEventFilter(this);
@@ -110,7 +110,7 @@ void FormView::run() {
   if (alive) qApp->removeEventFilter(this);
 }
 
-void FormView::name_default_button() {
+void FormView::mark_default_button() {
   for_each_below(form_, [this](Widget& widget) {
     auto* button = qobject_cast<QPushButton*>(view_of(widget));
     if (!button) return;
@@ -148,7 +148,7 @@ bool FormView::may_leave(TextField& field, const QWidget* to) {
   return may || !form_.Visible;
 }
 
-void FormView::left(TextField& field, Qt::FocusReason reason) {
+void FormView::has_left(TextField& field, Qt::FocusReason reason) {
   const bool by_user = reason == Qt::MouseFocusReason || reason == Qt::TabFocusReason ||
                        reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
   const QWidget* const to = QApplication::focusWidget();

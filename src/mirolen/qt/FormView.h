@@ -22,8 +22,8 @@ class FormView : public QDialog {
   void show_state();
   /// How much wider and higher the form is than told.
   QSizeF stretch() const { return stretch_; }
-  /// Whether a field may lose the focus, which has gone elsewhere. If not, it has the focus again.
-  void left(TextField& field, Qt::FocusReason reason);
+  /// Takes notice that the focus has gone from a field, and gives it back if the field may not be left.
+  void has_left(TextField& field, Qt::FocusReason reason);
 
   /// What Escape and the closing of the window do.
   void reject() override;
@@ -36,7 +36,7 @@ class FormView : public QDialog {
  private:
   void fit();
   void take_focus();
-  void name_default_button();
+  void mark_default_button();
   void follow_screen();
   bool may_leave(TextField& field, const QWidget* to);
 

@@ -45,7 +45,7 @@ QSize TextFieldView::needed_size() const { return {0, minimumSizeHint().height()
 
 void TextFieldView::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
-  if (auto* form = dynamic_cast<FormView*>(window())) form->left(field_, event->reason());
+  if (auto* form = dynamic_cast<FormView*>(window())) form->has_left(field_, event->reason());
 }
 
 void TextFieldView::keyPressEvent(QKeyEvent* event) {

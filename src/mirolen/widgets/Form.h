@@ -15,7 +15,7 @@ class Form : public Captioned {
 
   Button* DefaultButton = nullptr;  ///< What Return presses.
   Button* CancelButton = nullptr;   ///< What Escape presses, and the closing of the window.
-  Widget* FirstFocus = nullptr;     ///< What has the focus when the form appears.
+  Widget* FirstFocus = nullptr;     ///< Has the focus when the form appears; null: the first that can.
 
   /// Chooses the access keys, makes the peers, shows the form modally, and comes back when it is hidden.
   void Show();
