@@ -1,20 +1,15 @@
-#include <map>
-
 #include "control_support.h"
 #include "mirolen/dialogs/frmAbout.h"
+#include "support/about_names.h"
 
 namespace mirolen {
 namespace {
 
-const std::map<std::string, std::string> kinds{{"Plot2D", "2D Plot"},
-                                               {"Plot3D", "3D Plot"},
-                                               {"Plot2DS", "2D Sigma Range Plot"},
-                                               {"Plot3DS", "3D Sigma Range Plot"},
-                                               {"Plot2DC", "2D Contour Plot "},
-                                               {"LineScan", "Line Scan"},
-                                               {"Histogram", "Histogram"},
-                                               {"Plot2DN", "2D Value Plot"},
-                                               {"Plot2DB", "3D Bar Plot"}};
+std::string title_of(const std::string& control) {
+  for (const AboutName& name : about_names)
+    if (name.control == control) return name.title;
+  return {};
+}
 
 template <class Control>
 class AboutOf : public ControlTest<Control> {};
@@ -27,7 +22,7 @@ TYPED_TEST(AboutOf, ShowsTheBoxOfTheControl) {
     ++shown;
     const auto* box = dynamic_cast<const frmAbout*>(&form);
     ASSERT_TRUE(box);
-    EXPECT_EQ(box->lblTitle.Caption.get(), "Sonvera.OCX Type: " + kinds.at(this->object().info->name));
+    EXPECT_EQ(box->lblTitle.Caption.get(), title_of(this->object().info->name));
   };
   automation::call(this->object(), "About");
   EXPECT_EQ(shown, 1);

@@ -10,19 +10,16 @@
 #include "mirolen/core/version.h"
 #include "mirolen/dialogs/control_icons.h"
 #include "mirolen/widgets/Headless.h"
+#include "support/about_names.h"
 
 namespace mirolen {
 namespace {
 
-const std::map<std::int16_t, std::string> titles{{1, "Sonvera.OCX Type: 2D Plot"},
-                                                 {2, "Sonvera.OCX Type: 3D Plot"},
-                                                 {3, "Sonvera.OCX Type: 2D Sigma Range Plot"},
-                                                 {4, "Sonvera.OCX Type: 3D Sigma Range Plot"},
-                                                 {5, "Sonvera.OCX Type: 2D Contour Plot "},
-                                                 {6, "Sonvera.OCX Type: Line Scan"},
-                                                 {7, "Sonvera.OCX Type: Histogram"},
-                                                 {8, "Sonvera.OCX Type: 2D Value Plot"},
-                                                 {9, "Sonvera.OCX Type: 3D Bar Plot"}};
+const std::map<std::int16_t, std::string> titles = [] {
+  std::map<std::int16_t, std::string> by_type;
+  for (std::int16_t type = 1; const AboutName& name : about_names) by_type[type++] = name.title;
+  return by_type;
+}();
 
 /// The corners of what a call covers.
 std::vector<SurfacePoint> places_of(const recorded::Call& call) {

@@ -9,27 +9,12 @@
 #include "mirolen/core/version.h"
 #include "mirolen/dialogs/frmAbout.h"
 #include "qt/nine_faces.h"
+#include "support/about_names.h"
 
 namespace mirolen {
 namespace {
 
 using qt_test::make_face;
-
-/// The controls in the order of their types, from 1, and what the box calls them.
-struct Named {
-  const char* face;
-  std::string name;
-};
-
-const std::vector<Named> nine{{"Plot2D", "2D Plot"},
-                              {"Plot3D", "3D Plot"},
-                              {"Plot2DS", "2D Sigma Range Plot"},
-                              {"Plot3DS", "3D Sigma Range Plot"},
-                              {"Plot2DC", "2D Contour Plot "},
-                              {"LineScan", "Line Scan"},
-                              {"Histogram", "Histogram"},
-                              {"Plot2DN", "2D Value Plot"},
-                              {"Plot2DB", "3D Bar Plot"}};
 
 /// What the user sees of the box that something opens, before Return closes it.
 QImage box_of(const std::function<void()>& open) {
@@ -50,10 +35,10 @@ QImage box_of(const std::function<void()>& open) {
 }
 
 /// The box of a type, whose texts are known.
-QImage expected_box(qt::PlotWidget& face, std::int16_t type, const std::string& name) {
+QImage expected_box(qt::PlotWidget& face, std::int16_t type, const std::string& title) {
   frmAbout form(face.toolkit());
   form.SetTitle(type);
-  EXPECT_EQ(form.lblTitle.Caption.get(), "Sonvera.OCX Type: " + name);
+  EXPECT_EQ(form.lblTitle.Caption.get(), title);
   const Version running = version();
   EXPECT_EQ(form.lblVersion.Caption.get(),
             "Version " + std::to_string(running.major) + "." + std::to_string(running.minor));
@@ -74,12 +59,12 @@ void open_from_menu(qt::PlotWidget& face) {
 
 TEST(AboutOnTheScreen, NamesEachControlWithItsIcon) {
   std::vector<QImage> icons;
-  for (const Named& control : nine) {
-    SCOPED_TRACE(control.face);
-    const auto face = make_face(control.face);
+  for (const auto& [control, title] : about_names) {
+    SCOPED_TRACE(control);
+    const auto face = make_face(control);
     face->show();
     const QImage seen = box_of([&] { face->About(); });
-    EXPECT_EQ(seen, expected_box(*face, static_cast<std::int16_t>(icons.size() + 1), control.name));
+    EXPECT_EQ(seen, expected_box(*face, static_cast<std::int16_t>(icons.size() + 1), title));
     const QImage icon = seen.copy(16, 16, 32, 32);
     EXPECT_EQ(icon.pixelColor(0, 0), seen.pixelColor(1, 1)) << "no box round the icon";
     for (const QImage& other : icons) EXPECT_NE(icon, other);
@@ -88,9 +73,9 @@ TEST(AboutOnTheScreen, NamesEachControlWithItsIcon) {
 }
 
 TEST(AboutOnTheScreen, IsOpenedFromTheMenuInDesignUse) {
-  for (const Named& control : nine) {
-    SCOPED_TRACE(control.face);
-    const auto face = make_face(control.face);
+  for (const auto& [control, title] : about_names) {
+    SCOPED_TRACE(control);
+    const auto face = make_face(control);
     face->show();
     const QImage seen = box_of([&] { face->About(); });
     EXPECT_EQ(box_of([&] { open_from_menu(*face); }), seen);
