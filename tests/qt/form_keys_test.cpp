@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cctype>
 #include <tuple>
 
 #include "dialogs/form_support.h"
@@ -16,7 +15,6 @@ template <class Kind>
 class FormKeys : public testing::Test {
  protected:
   FormKeys() {
-    data.WafDiam = data.test_diam = 200;
     fill(form, data);
     face.resize(400, 300);
     face.show();
@@ -39,14 +37,10 @@ class FormKeys : public testing::Test {
     std::ranges::stable_sort(widgets, {}, [&](Widget* widget) { return place_of(*view_of(*widget)); });
     return widgets;
   }
-  static void press_access_key(char key) {
-    ASSERT_NE(key, 0);
-    press(static_cast<Qt::Key>(Qt::Key_A + std::toupper(key) - 'A'), Qt::AltModifier);
-  }
 
   QWidget face;
   qt::QtToolkit toolkit{face};
-  wafer data;
+  wafer data = wafer_of_200_mm();
   Kind form{toolkit};
 };
 TYPED_TEST_SUITE(FormKeys, AllForms);
@@ -70,26 +64,7 @@ TYPED_TEST(FormKeys, TabGoesFromTheFirstFieldThroughAllThatIsEnabledAsOneReads) 
 }
 
 TYPED_TEST(FormKeys, AnAccessKeyTakesTheUserToEachFieldAndOption) {
-  this->show([&] {
-    for (Widget* widget : this->read()) {
-      const QWidget& view = *view_of(*widget);
-      if (auto* label = dynamic_cast<Label*>(widget)) {
-        if (label->Caption.get().find(':') == std::string::npos) continue;
-        this->press_access_key(label->AccessKey);
-        EXPECT_TRUE(QTest::qWaitFor([&] {
-          const auto* at = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
-          return at && at->parent() == view.parent() && at->y() == view.y();
-        })) << label->Caption.get();
-      } else if (auto* option = dynamic_cast<OptionButton*>(widget)) {
-        this->press_access_key(option->AccessKey);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return option->Value(); })) << option->Caption.get();
-      } else if (auto* box = dynamic_cast<CheckBox*>(widget)) {
-        const bool before = box->Value();
-        this->press_access_key(box->AccessKey);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return box->Value() != before; })) << box->Caption.get();
-      }
-    }
-  });
+  this->show([&] { expect_reached_by_access_keys(this->read()); });
 }
 
 TYPED_TEST(FormKeys, ReturnConfirmsAndEscapeCancelsWhereverTheUserIs) {

@@ -9,7 +9,9 @@
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <cctype>
 #include <functional>
+#include <vector>
 
 #include "mirolen/qt/FormView.h"
 #include "mirolen/qt/PlotWidget.h"
@@ -81,6 +83,34 @@ inline void answer_options(qt::PlotWidget& face, const std::function<void(QWidge
 inline void press(Qt::Key key, Qt::KeyboardModifiers with = {}) {
   ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
   QTest::keyClick(QApplication::focusWidget(), key, with);
+}
+
+inline void press_access_key(char key) {
+  ASSERT_NE(key, 0);
+  press(static_cast<Qt::Key>(Qt::Key_A + std::toupper(key) - 'A'), Qt::AltModifier);
+}
+
+/// The access keys of some widgets, one after the other, go to the fields, choose the options, tick the
+/// boxes.
+inline void expect_reached_by_access_keys(const std::vector<Widget*>& widgets) {
+  const auto expect_after = [](const Keyed& pressed, const std::function<bool()>& reached) {
+    press_access_key(pressed.AccessKey);
+    EXPECT_TRUE(QTest::qWaitFor(reached)) << pressed.Caption.get();
+  };
+  for (Widget* widget : widgets) {
+    const QWidget* const view = qt::view_of(*widget);
+    if (const auto* label = dynamic_cast<const Label*>(widget)) {
+      if (label->Caption.get().find(':') == std::string::npos) continue;
+      expect_after(*label, [view] {
+        const auto* at = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
+        return at && at->parent() == view->parent() && at->y() == view->y();
+      });
+    } else if (const auto* option = dynamic_cast<const OptionButton*>(widget)) {
+      expect_after(*option, [option] { return option->Value(); });
+    } else if (const auto* box = dynamic_cast<const CheckBox*>(widget)) {
+      expect_after(*box, [box, before = box->Value()] { return box->Value() != before; });
+    }
+  }
 }
 
 /// A field by its place among those that the Tab key passes.

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <set>
 
+#include "dialogs/form_layout.h"
 #include "mirolen/dialogs/PropertyDialog.h"
 #include "mirolen/dialogs/WaferInfoProp.h"
 #include "mirolen/dialogs/plan_pages.h"
@@ -212,6 +213,17 @@ TEST_P(Properties, AreAllReachedByTheTabKey) {
         EXPECT_TRUE(visited.contains(view)) << view->metaObject()->className();
       }
     }
+  });
+}
+
+TEST_P(Properties, AreReachedByTheirAccessKeys) {
+  const auto face = make_face(GetParam());
+  face->show();
+  PropertyDialog dialog(face->toolkit(), {face->by_name()});
+  show_to(dialog, [&] {
+    expect_reached_by_access_keys(below(dialog));
+    press_access_key(dialog.apply.AccessKey);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.apply.Enabled; }));
   });
 }
 
