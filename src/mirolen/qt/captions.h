@@ -20,7 +20,7 @@ bool is_on_form(const Widget& widget);
 
 /// The font of a widget's text. On the face of a control it is the font of plots, in the same size
 /// everywhere; a form has the font of the platform's dialogs, larger or smaller as the widget wants it.
-QFont text_font(const Widget& widget, const QWidget& view, const FontSpec& font = {});
+QFont text_font(const Widget& widget, const QWidget& view, const FontSpec& wanted = {});
 
 /// A caption whose access key, 0 for none, is marked by the only '&' that is not doubled.
 QString with_mnemonic(const QString& caption, char access_key);
