@@ -8,6 +8,7 @@
 
 #include "mirolen/core/translation.h"
 #include "mirolen/qt/DrawnImage.h"
+#include "mirolen/qt/FullSpeed.h"
 #include "mirolen/qt/Picture.h"
 #include "mirolen/qt/painting.h"
 #include "mirolen/qt/pixels.h"
@@ -74,11 +75,13 @@ QPointF ImageSurface::centre_of(SurfacePoint pixel) const {
 }
 
 void ImageSurface::clear(Color color) {
+  const FullSpeedAfterPainting guard;
   image_->settled().fill(rgb_of(color));
   since_shown_.start();  // an empty picture would only flicker
 }
 
 void ImageSurface::line(const Pen& pen, SurfacePoint from, SurfacePoint to) {
+  const FullSpeedAfterPainting guard;
   if (!is_drawn(pen)) return;
   const bool upright = from.x == to.x || from.y == to.y;
   if (upright && pen.style == Pen::Style::solid) return upright_line(pen, from, to);
@@ -110,11 +113,13 @@ void ImageSurface::outline_box(const Pen& pen, const SurfaceBox& box) {
 }
 
 void ImageSurface::ellipse(const Pen& pen, const Brush& brush, SurfacePoint centre, SurfaceSize radii) {
+  const FullSpeedAfterPainting guard;
   image_->painter(pen, brush, true)
       .drawEllipse(centre_of(centre), in_reach(radii.width * ratio()), in_reach(radii.height * ratio()));
 }
 
 void ImageSurface::arc(const Pen& pen, SurfacePoint centre, SurfaceSize radii, double start, double end) {
+  const FullSpeedAfterPainting guard;
   const QPointF middle = centre_of(centre);
   const QPointF reach(in_reach(radii.width * ratio()), in_reach(radii.height * ratio()));
   const QRectF round(middle - reach, middle + reach);
@@ -127,6 +132,7 @@ void ImageSurface::polygon(const Pen& pen, const Brush& brush, std::span<const P
     if (!brush.solid) return;
     if (const std::optional<UprightBox> box = upright_box(points)) return image_->add({*box, brush.color});
   }
+  const FullSpeedAfterPainting guard;
   QVarLengthArray<QPointF, 4> corners;
   for (const auto& [x, y] : points)
     corners << (is_drawn(pen) ? centre_of({double(x), double(y)})
@@ -136,6 +142,7 @@ void ImageSurface::polygon(const Pen& pen, const Brush& brush, std::span<const P
 
 void ImageSurface::text(const FontSpec& font, Color color, std::optional<Color> background,
                         SurfacePoint place, std::string_view text) {
+  const FullSpeedAfterPainting guard;
   if (background) {
     const SurfaceSize size = measure(font, text);
     image_->fill(device_box({place, {place.x + size.width - 1, place.y + size.height - 1}}), *background);
@@ -166,6 +173,7 @@ std::shared_ptr<const Image> ImageSurface::snapshot() const {
 }
 
 void ImageSurface::restore(const Image& image) {
+  const FullSpeedAfterPainting guard;
   const auto* const picture = dynamic_cast<const Picture*>(&image);
   if (!picture) return;
   // A snapshot may come from a screen with another ratio.
@@ -176,6 +184,7 @@ void ImageSurface::restore(const Image& image) {
 }
 
 void ImageSurface::refresh() {
+  const FullSpeedAfterPainting guard;
   if (!show_) return;
   const bool at_once = since_shown_.hasExpired(between_shows);
   show_(at_once);
