@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 #include "mirolen/core/palette.h"
+#include "support/site_support.h"
 
 namespace mirolen {
 namespace {
@@ -41,6 +43,29 @@ TEST(ToColor, WrapsAt32Bits) {
   EXPECT_EQ(to_color(4294967296.0 + 7), 7u);
   EXPECT_EQ(to_color(-2147483633.0), 0x8000000Fu);
   EXPECT_THROW(to_color(std::numeric_limits<double>::infinity()), InvalidArgument);
+}
+
+/// The colour in the plainest words.
+Color plain_color(double value) {
+  const double below = std::floor(value), rest = value - below;
+  const bool up = rest > 0.5 || (rest == 0.5 && std::fmod(below, 2) != 0);
+  const double wrapped = std::fmod(up ? below + 1 : below, 4294967296.0);
+  return static_cast<Color>(static_cast<std::int64_t>(wrapped < 0 ? wrapped + 4294967296.0 : wrapped));
+}
+
+class ToColorOfRandomNumbers : public RandomInput {};
+
+TEST_F(ToColorOfRandomNumbers, RoundsAndWrapsAsToldInTheWholeRangeOfDouble) {
+  for (int round = 0; round < 20000; ++round) {
+    const double scale = std::ldexp(1, between(random, 0, 1023));
+    const double usual = between(random, 0.0, 16777216.0), any = between(random, -1.0, 1.0) * scale;
+    for (const double value : {usual, any})
+      for (const double near :
+           {value, std::floor(value), std::floor(value) + 0.5, std::nextafter(std::floor(value) + 0.5, 0.0)})
+        ASSERT_EQ(to_color(near), plain_color(near)) << near;
+  }
+  for (const double edge : {4294967295.5, -0.5, 0x1p52, -0x1p52, 0x1p52 - 0.5, 0.5 - 0x1p52, 0x1p53 + 2})
+    EXPECT_EQ(to_color(edge), plain_color(edge)) << edge;
 }
 
 TEST(Divide, RaisesWhereArithmeticWouldLeaveTheNumbers) {

@@ -14,10 +14,20 @@ namespace mirolen {
 /// A colour value: 0x00BBGGRR, or 0x80000000 plus the index of a system colour.
 using Color = std::uint32_t;
 
+// The errors of what follows, which keep out of its way so that it stays small.
+[[noreturn]] void raise_overflow();
+[[noreturn]] void raise_integer_overflow();
+[[noreturn]] void raise_division_by_zero();
+[[noreturn]] void raise_negative_root();
+[[noreturn]] void raise_not_finite(const char* what);
+
 /// Rounds to a whole number, ties to the even one, whatever rounding mode the host has set.
 double round_half_even(double value);
 
-/// round_half_even of a number of less than 2^52.
+/// Below this a number may have a fraction.
+constexpr double largest_fraction = 0x1p52;
+
+/// round_half_even of a number within largest_fraction.
 inline std::int64_t nearest_whole(double value) {
   const auto cut = static_cast<std::int64_t>(value);
   const std::int64_t below = cut - (static_cast<double>(cut) > value);
@@ -33,13 +43,19 @@ Integer to_integer(double value) {
     const std::int64_t whole = nearest_whole(value);
     if (whole >= Limits::min() && whole <= Limits::max()) return static_cast<Integer>(whole);
   }
-  throw OverflowError(tr("the value does not fit its integer type"));
+  raise_integer_overflow();
 }
 inline std::int16_t to_int16(double value) { return to_integer<std::int16_t>(value); }
 inline std::int32_t to_int32(double value) { return to_integer<std::int32_t>(value); }
 
+/// to_color of a number beyond largest_fraction, or of one that is not finite.
+Color to_color_of_large(double value);
+
 /// The 32-bit colour that a Double carries: rounded, modulo 2^32. @throws InvalidArgument if not finite.
-Color to_color(double value);
+inline Color to_color(double value) {
+  if (std::abs(value) < largest_fraction) return static_cast<Color>(nearest_whole(value));
+  return to_color_of_large(value);
+}
 
 /// The largest whole number that is not above value.
 inline double Int(double value) { return std::floor(value); }
@@ -47,24 +63,24 @@ inline double Int(double value) { return std::floor(value); }
 /// @throws InvalidArgument, naming what, for a number that is infinite or NaN.
 inline void refuse_unless_finite(std::initializer_list<double> numbers, const char* what) {
   for (const double number : numbers)
-    if (!std::isfinite(number)) throw InvalidArgument(tr(what) + tr(" must be finite"));
+    if (!std::isfinite(number)) raise_not_finite(what);
 }
 
 /// The value of an arithmetic expression. @throws OverflowError if it became infinite or NaN on the way.
 inline double checked(double value) {
-  if (!std::isfinite(value)) throw OverflowError(tr("overflow"));
+  if (!std::isfinite(value)) raise_overflow();
   return value;
 }
 
 /// a / b. @throws DivisionByZero, OverflowError.
 inline double divide(double a, double b) {
-  if (b == 0) throw DivisionByZero();
+  if (b == 0) raise_division_by_zero();
   return checked(a / b);
 }
 
 /// @throws InvalidArgument for a negative number.
 inline double square_root(double value) {
-  if (value < 0) throw InvalidArgument(tr("square root of a negative number"));
+  if (value < 0) raise_negative_root();
   return std::sqrt(checked(value));
 }
 
