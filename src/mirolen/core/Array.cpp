@@ -1,5 +1,6 @@
 #include "mirolen/core/Array.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "mirolen/core/RunTimeError.h"
@@ -33,6 +34,13 @@ double Array::operator()(std::int32_t index) const { return const_cast<Array&>(*
 double ArrayView::operator()(std::int64_t index) const {
   if (!has(index)) throw SubscriptOutOfRange();
   return values_[static_cast<std::size_t>(index - lower_)];
+}
+
+std::span<const double> ArrayView::part(std::int64_t from, std::int64_t to) const {
+  from = std::max(from, LBound());
+  to = std::min(to, UBound());
+  if (from > to) return {};
+  return values_.subspan(static_cast<std::size_t>(from - lower_), static_cast<std::size_t>(to - from + 1));
 }
 
 }  // namespace mirolen

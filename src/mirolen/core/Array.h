@@ -52,6 +52,9 @@ class ArrayView {
   /// @throws SubscriptOutOfRange outside the bounds.
   double operator()(std::int64_t index) const;
 
+  /// The elements from one index to another, those of them that exist.
+  std::span<const double> part(std::int64_t from, std::int64_t to) const;
+
  private:
   std::span<const double> values_;
   std::int64_t lower_ = 1;

@@ -1,15 +1,32 @@
 #include "mirolen/core/GlobalFunctions.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
-#include <cstring>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
+#include <span>
 #include <vector>
 
 #include "mirolen/core/translation.h"
 
-namespace mirolen::GlobalFunctions {
+namespace mirolen {
+
+using Numbers = std::span<const double>;
+
+/// What a wafer lets nobody else do.
+class SiteLoad {
+ public:
+  /// Stores the sites that have all three numbers, which are finite. @return how many there are.
+  static std::size_t append(wafer& wafer, Numbers x, Numbers y, Numbers Z) {
+    const std::size_t whole = std::min({x.size(), y.size(), Z.size()});
+    wafer.append_sites(x.first(whole), y.first(whole), Z.first(whole));
+    return whole;
+  }
+};
+
+namespace GlobalFunctions {
 namespace {
 
 /// The plot limits in force before a load, put back behind it.
@@ -29,18 +46,15 @@ class KeptLimits {
 
 constexpr const char* site_number = "a site's number";
 
-void refuse_odd_elements(const ArrayView& array, std::int32_t n) {
-  for (std::int32_t j = 1; j <= n; ++j)
-    if (array.has(j)) refuse_unless_finite({array(j)}, site_number);
+bool all_finite(Numbers numbers) {
+  bool finite = true;
+  for (const double number : numbers) finite &= std::isfinite(number);
+  return finite;
 }
 
-double from_little_endian(const char* bytes) {
-  char native[sizeof(double)];
-  for (std::size_t i = 0; i < sizeof native; ++i)
-    native[i] = bytes[std::endian::native == std::endian::little ? i : sizeof native - 1 - i];
-  double number;
-  std::memcpy(&number, native, sizeof number);
-  return number;
+/// The elements from 1 to n, up to the first that is missing.
+Numbers first_elements(const ArrayView& array, std::int32_t n) {
+  return array.has(1) ? array.part(1, n) : Numbers();
 }
 
 /// The first count numbers of a file, 0 where it holds none.
@@ -48,14 +62,19 @@ std::vector<double> read_numbers(const std::string& datafile, std::size_t count)
   const std::filesystem::path path(std::u8string(datafile.begin(), datafile.end()));
   std::error_code unknown;
   if (std::filesystem::is_directory(path, unknown)) throw FileError(datafile + tr(" is a directory"));
-  std::ifstream file(path, std::ios::binary);
+  std::ifstream file;
+  file.rdbuf()->pubsetbuf(nullptr, 0);
+  file.open(path, std::ios::binary);
   if (!file) throw FileError(tr("cannot open ") + datafile);
 
-  std::vector<char> bytes(count * sizeof(double));
-  file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  const auto whole = static_cast<std::size_t>(file.gcount()) / sizeof(double);
   std::vector<double> numbers(count);
-  for (std::size_t i = 0; i < whole; ++i) numbers[i] = from_little_endian(&bytes[i * sizeof(double)]);
+  const auto bytes = std::as_writable_bytes(std::span(numbers));
+  file.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+  const auto held = bytes.first(static_cast<std::size_t>(file.gcount()));
+  std::ranges::fill(held.last(held.size() % sizeof(double)), std::byte{});
+  if constexpr (std::endian::native == std::endian::big)
+    for (auto rest = bytes; !rest.empty(); rest = rest.subspan(sizeof(double)))
+      std::ranges::reverse(rest.first(sizeof(double)));
   return numbers;
 }
 
@@ -65,12 +84,12 @@ void load_file(bool PlotLimitSet, wafer& wafer, const std::string& datafile, dou
   wafer.SetNop(nops);
   const auto n = static_cast<std::size_t>(to_int16(nops));
   const std::vector<double> numbers = read_numbers(datafile, 3 * n);
-  for (const double number : numbers) {
-    if (std::isfinite(number)) continue;
+  if (!all_finite(numbers)) {
     wafer.reset();
-    refuse_unless_finite({number}, site_number);
+    raise_not_finite(site_number);
   }
-  for (std::size_t i = 0; i < n; ++i) wafer.SetGridValue(numbers[i], numbers[n + i], numbers[2 * n + i]);
+  const Numbers all(numbers);
+  SiteLoad::append(wafer, all.first(n), all.subspan(n, n), all.last(n));
   wafer.MaxMin();
   limits.put_back(wafer);
 }
@@ -85,12 +104,15 @@ std::int16_t LoadSiteArrays(bool PlotLimitSet, wafer& wafer, const ArrayView& x,
   if (x.LBound() != y.LBound() && Z.LBound() != y.LBound()) return 2;
   const std::int16_t lo = to_int16(static_cast<double>(x.LBound()));
   const std::int16_t n = to_int16(hi - lo + 1);
-  for (const ArrayView& array : {x, y, Z}) refuse_odd_elements(array, n);
+  for (const ArrayView& array : {x, y, Z})
+    if (!all_finite(array.part(1, n))) raise_not_finite(site_number);
 
   const KeptLimits limits(PlotLimitSet, wafer);
   wafer.reset();
   wafer.SetNop(n);
-  for (std::int32_t j = 1; j <= n; ++j) wafer.SetGridValue(x(j), y(j), Z(j));
+  const std::size_t whole =
+      SiteLoad::append(wafer, first_elements(x, n), first_elements(y, n), first_elements(Z, n));
+  if (whole < static_cast<std::size_t>(n)) throw SubscriptOutOfRange();
   wafer.MaxMin();
   limits.put_back(wafer);
   return 0;
@@ -140,4 +162,5 @@ void ClipToTestDiameter(bool PlotLimitSet, wafer& wafer, double new_diameter) {
   limits.put_back(wafer);
 }
 
-}  // namespace mirolen::GlobalFunctions
+}  // namespace GlobalFunctions
+}  // namespace mirolen

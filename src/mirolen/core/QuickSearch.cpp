@@ -113,20 +113,20 @@ QuickSearch::QuickSearch(const SiteIndex& index, std::span<const SiteIndex::Posi
   // Beyond these sizes single precision would not hold the squares.
   if (!(index.GridCell() > 1e-9 && index.GridCell() < 1e9)) return;
   coordinate_error_ = (index.HalfCells() + 1) * index.GridCell() * 0x1p-24;
-  x_.reserve(index.sites().size() + at_once);
-  y_.reserve(index.sites().size() + at_once);
-  sites_.reserve(index.sites().size());
+  sites_.resize(index.sites().size());
+  // The last ones are read by fours, too.
+  x_.resize(sites_.size() + at_once);
+  y_.resize(sites_.size() + at_once);
+  std::size_t place = 0;
   for (std::int16_t cy = 0; cy < index.side(); ++cy)
     for (std::int16_t cx = 0; cx < index.side(); ++cx)
       for (const std::int16_t number : index.cell(cx, cy)) {
         const auto site = static_cast<std::size_t>(number);
-        sites_.push_back({positions[site], values[site], cx, cy});
-        x_.push_back(static_cast<float>(positions[site].x));
-        y_.push_back(static_cast<float>(positions[site].y));
+        sites_[place] = {positions[site], values[site], cx, cy};
+        x_[place] = static_cast<float>(positions[site].x);
+        y_[place] = static_cast<float>(positions[site].y);
+        ++place;
       }
-  // The last ones are read by fours, too.
-  x_.resize(sites_.size() + at_once);
-  y_.resize(sites_.size() + at_once);
 }
 
 double QuickSearch::value(const SiteIndex& index, double Xa, double Ya, double farthest) const {

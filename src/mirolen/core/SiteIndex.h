@@ -64,6 +64,8 @@ class SiteIndex {
   std::span<const std::int16_t> sites() const { return sites_; }
 
  private:
+  std::vector<std::uint32_t> cells_of(std::span<const Position> sites) const;
+  void refuse_one_outside(std::span<const Position> sites) const;
   std::size_t place(std::int64_t cx, std::int64_t cy) const {
     return static_cast<std::size_t>(cy * side_ + cx);
   }

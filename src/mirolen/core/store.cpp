@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include "mirolen/core/translation.h"
@@ -59,13 +60,31 @@ double wafer::GetGridValue(std::int16_t ind, Array& gr) const {
 void wafer::store_site(std::int32_t site, double x, double y, double Z) {
   const std::size_t at = place_of(site);
   refuse_unless_finite({x, y, Z}, translatable("a site's number"));
-
-  const bool zero = Z == 0 || (Z < nearly_zero && Z > -nearly_zero);
-  if (zero) FW_NUll = true;
-  if (!zero && Z < 0) FW_Negativ = true;
   quick_ = false;
   GridPos[at] = {x, y};
-  GridVal[at] = zero ? 0 : Z;
+  GridVal[at] = cleaned(Z);
+}
+
+void wafer::append_sites(std::span<const double> x, std::span<const double> y, std::span<const double> Z) {
+  const double room = std::max(Int(Nop) - (NextSite - 1), 0.0);
+  const std::size_t count = std::min(x.size(), static_cast<std::size_t>(room));
+  const auto first = static_cast<std::ptrdiff_t>(NextSite) - 1;
+  Position* const positions = GridPos.data() + first;
+  double* const values = GridVal.data() + first;
+  for (std::size_t i = 0; i < count; ++i) {
+    positions[i] = {x[i], y[i]};
+    values[i] = cleaned(Z[i]);
+  }
+  quick_ = false;
+  NextSite += static_cast<double>(count);
+}
+
+/// The value as it is stored.
+double wafer::cleaned(double Z) {
+  const bool zero = std::abs(Z) < nearly_zero;
+  if (zero) FW_NUll = true;
+  if (!zero && Z < 0) FW_Negativ = true;
+  return zero ? 0 : Z;
 }
 
 std::size_t wafer::place_of(std::int32_t site) const {

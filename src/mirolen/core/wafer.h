@@ -239,10 +239,14 @@ class wafer {
 
  private:
   friend class Painter;
+  friend class SiteLoad;
 
   using Position = SiteIndex::Position;
 
   void store_site(std::int32_t site, double x, double y, double Z);
+  /// `SetGridValue` for each of some sites, whose numbers are finite.
+  void append_sites(std::span<const double> x, std::span<const double> y, std::span<const double> Z);
+  double cleaned(double Z);
   std::size_t place_of(std::int32_t site) const;
   double value_of(std::int32_t site) const { return GridVal[place_of(site)]; }
   const Position& position_of(std::int32_t site) const { return GridPos[place_of(site)]; }
