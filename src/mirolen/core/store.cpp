@@ -29,10 +29,11 @@ void wafer::SetNop(double Number) {
   const std::int32_t n = to_int32(Number);
   if (n < 0) throw SubscriptOutOfRange();
 
-  std::vector<Position> positions(static_cast<std::size_t>(n));
-  std::vector<double> values(static_cast<std::size_t>(n));
-  GridPos.swap(positions);
-  GridVal.swap(values);
+  const auto room = static_cast<std::size_t>(n);
+  GridPos.reserve(room);  // only these can fail
+  GridVal.reserve(room);
+  GridPos.assign(room, {});
+  GridVal.assign(room, 0);
   Nop = Number;
   quick_ = false;
 }
