@@ -79,20 +79,22 @@ void CellRows::end() {
 }
 
 void CellRows::paint(const Row& row, const Row& following) {
+  if (row.empty()) return;
+  painter_.setPen(Qt::NoPen);
   for (std::size_t i = 0; i < row.size(); ++i) {
     UprightBox reach = row[i].box;
     if (i + 1 < row.size() && row[i + 1].box.from.x == reach.to.x)
       reach.to.x = std::min(row[i + 1].box.to.x, reach.to.x + (reach.to.y - reach.from.y));
     const std::vector<UprightBox> under = parts_along(reach, following);
     const bool whole = under.size() == 1 && under[0].from.x == reach.from.x && under[0].to.x == reach.to.x;
-    if (!whole) fill(reach, row[i].color);
-    for (const UprightBox& part : under) fill(part, row[i].color);
+    painter_.setBrush(qcolor_of(row[i].color));
+    if (!whole) fill(reach);
+    for (const UprightBox& part : under) fill(part);
   }
 }
 
-void CellRows::fill(const UprightBox& box, Color color) {
-  painter_.fillRect(QRect(box.from.x, box.from.y, box.to.x - box.from.x, box.to.y - box.from.y),
-                    qcolor_of(color));
+void CellRows::fill(const UprightBox& box) {
+  painter_.drawRect(box.from.x, box.from.y, box.to.x - box.from.x, box.to.y - box.from.y);
 }
 
 }  // namespace mirolen::qt

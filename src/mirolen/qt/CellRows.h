@@ -29,7 +29,7 @@ class CellRows {
   /// Whether the cell belongs to the present row, which then has it.
   bool extend_row(const Cell& cell);
   void paint(const Row& row, const Row& following);
-  void fill(const UprightBox& box, Color color);
+  void fill(const UprightBox& box);
 
   QPainter& painter_;
   Row before_, row_;  // kept back: the present row and the one it touches, of which nothing is painted
