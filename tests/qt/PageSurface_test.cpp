@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSvgGenerator>
 #include <QTemporaryDir>
 #include <random>
 
@@ -250,6 +251,26 @@ TEST(PageSurface, AMapMakesASmallFile) {
   const qsizetype merged = pdf_of<PageSurface>(map).size(), plain = pdf_of<PlainPage>(map).size();
   EXPECT_LT(merged, 30000);
   EXPECT_GT(plain, 5 * merged);
+}
+
+/// How many shapes a file has that shows a row of red and blue cells in turn, five of them.
+template <class Page>
+qsizetype shapes_of_a_row() {
+  QBuffer file;
+  file.open(QIODevice::WriteOnly);
+  QSvgGenerator generator;
+  generator.setOutputDevice(&file);
+  QPainter painter(&generator);
+  Page page(painter, generator);
+  for (const int place : {0, 1, 2, 3, 4})
+    page.polygon(no_pen, place % 2 ? blue_brush : red_brush, box(10 * place, 0, 10 * place + 10, 10));
+  page.end_page();
+  painter.end();
+  return file.data().count("<path") + file.data().count("<rect");
+}
+
+TEST(PageSurface, AColorThatComesAgainInARowIsOneBox) {
+  EXPECT_EQ(shapes_of_a_row<PlainPage>() - shapes_of_a_row<PageSurface>(), 2) << "the red ones, but for one";
 }
 
 /// The largest amount of green, which red and blue have none of, between the cells of a chess board.

@@ -18,6 +18,32 @@ UprightBox both(const UprightBox& a, const UprightBox& b) {
           {std::max(a.to.x, b.to.x), std::max(a.to.y, b.to.y)}};
 }
 
+/// The boxes of a row in the order in which they are painted. That of a colour that comes again reaches under
+/// all that lies between; any other one reaches under its neighbour.
+template <class Row>
+std::vector<Cell> nested(const Row& row) {
+  std::vector<Cell> boxes;
+  std::vector<std::size_t> open;  // those that the last cell lies in, the innermost last
+  std::int32_t end = 0;
+  for (const Cell& cell : row) {
+    if (cell.box.from.x != end) open.clear();
+    end = cell.box.to.x;
+    const auto same = std::ranges::find(open, cell.color, [&](std::size_t at) { return boxes[at].color; });
+    if (same != open.end()) {
+      boxes[*same].box.to.x = end;
+      open.erase(same + 1, open.end());
+      continue;
+    }
+    if (!open.empty()) {
+      UprightBox& beside = boxes[open.back()].box;
+      beside.to.x = std::min(end, beside.to.x + (beside.to.y - beside.from.y));
+    }
+    open.push_back(boxes.size());
+    boxes.push_back(cell);
+  }
+  return boxes;
+}
+
 /// The parts of a box's width over which a row lies, as high as both of them.
 template <class Row>
 std::vector<UprightBox> parts_along(const UprightBox& box, const Row& row) {
@@ -81,14 +107,11 @@ void CellRows::end() {
 void CellRows::paint(const Row& row, const Row& following) {
   if (row.empty()) return;
   painter_.setPen(Qt::NoPen);
-  for (std::size_t i = 0; i < row.size(); ++i) {
-    UprightBox reach = row[i].box;
-    if (i + 1 < row.size() && row[i + 1].box.from.x == reach.to.x)
-      reach.to.x = std::min(row[i + 1].box.to.x, reach.to.x + (reach.to.y - reach.from.y));
-    const std::vector<UprightBox> under = parts_along(reach, following);
-    const bool whole = under.size() == 1 && under[0].from.x == reach.from.x && under[0].to.x == reach.to.x;
-    painter_.setBrush(qcolor_of(row[i].color));
-    if (!whole) fill(reach);
+  for (const auto& [box, color] : nested(row)) {
+    const std::vector<UprightBox> under = parts_along(box, following);
+    const bool whole = under.size() == 1 && under[0].from.x == box.from.x && under[0].to.x == box.to.x;
+    painter_.setBrush(qcolor_of(color));
+    if (!whole) fill(box);
     for (const UprightBox& part : under) fill(part);
   }
 }

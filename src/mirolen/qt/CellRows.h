@@ -8,10 +8,11 @@ class QPainter;
 
 namespace mirolen::qt {
 
-/// Paints the cells of a map, which come row by row, with few boxes: those side by side in one colour as one.
+/// Paints the cells of a map, which come row by row, with few boxes: those of a row in one colour as one,
+/// with those of other colours that lie between on top of it.
 ///
 /// The pixels are those of one box a cell. A viewer that smooths edges would show the background through
-/// every seam of two cells, so the one that is painted first reaches under the other.
+/// every seam of two boxes, so the one that is painted first reaches under the other.
 class CellRows {
  public:
   /// The painter stays the caller's.
