@@ -1,5 +1,4 @@
 #include "subjects.h"
-#include "support/interpolate.h"
 #include "support/node_work.h"
 
 namespace mirolen::bench {
@@ -11,7 +10,7 @@ void run(benchmark::State& state, const Work& work) {
 }
 
 Work in_rows(const Sites& sites) {
-  return node_work([w = loaded(sites)](const auto& x, const auto& y, auto& z) { interpolate(w, x, y, z); });
+  return node_work([w = loaded(sites)](const auto& x, const auto& y, auto& z) { w.Interpolation(x, y, z); });
 }
 
 Work one_by_one(const Sites& sites) {

@@ -11,7 +11,6 @@
 #include "rounds/plain_map.h"
 #include "support/PolygonSurface.h"
 #include "support/drawings.h"
-#include "support/interpolate.h"
 
 namespace mirolen::bench {
 namespace {
@@ -37,7 +36,7 @@ void check_values(const std::string& sites) {
   std::size_t in_rows = 0, alone = 0, nodes = 0;
   for (const auto& [x, y] : node_rows()) {
     std::vector<double> row(x.size()), single, told;
-    interpolate(fast, x, y, row);
+    fast.Interpolation(x, y, row);
     for (std::size_t i = 0; i < x.size(); ++i) {
       single.push_back(fast.Interpolation(x[i], y[i]));
       told.push_back(plain.Interpolation(x[i], y[i]));

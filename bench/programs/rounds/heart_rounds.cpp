@@ -9,7 +9,6 @@
 
 #include "mirolen/core/GlobalFunctions.h"
 #include "rounds/plain_map.h"
-#include "support/interpolate.h"
 #include "support/node_work.h"
 
 namespace mirolen::bench {
@@ -25,7 +24,7 @@ std::shared_ptr<wafer> shared_wafer(const std::string& sites) {
 void add_interpolation(Works& works, const std::string& sites) {
   works["row/" + sites] = [=] {
     return node_work(
-        [w = shared_wafer(sites)](const auto& x, const auto& y, auto& z) { interpolate(*w, x, y, z); });
+        [w = shared_wafer(sites)](const auto& x, const auto& y, auto& z) { w->Interpolation(x, y, z); });
   };
   works["single/" + sites] = [=] {
     return node_work([w = shared_wafer(sites)](const auto& x, const auto& y, auto& z) {
