@@ -9,8 +9,9 @@ import sys
 
 BENCH = pathlib.Path(__file__).resolve().parent.parent
 ROOT = BENCH.parent
+BINARIES = ROOT / "build" / "bench" / "bench"
 PACKAGES = ("libbenchmark-dev", "libgtest-dev", "libnanoflann-dev", "python3-numpy", "python3-scipy",
-            "python3-matplotlib", "gnuplot-nox", "libqwt-qt5-dev", "qtbase5-dev")
+            "python3-matplotlib", "gnuplot-nox", "libqwt-qt5-dev", "qtbase5-dev", "valgrind")
 
 
 class Failure(Exception):
@@ -59,7 +60,7 @@ def run(command, **options):
 
 
 def install():
-    """Installs the peers, and what the programs are built with, from Debian."""
+    """Installs the peers, and what the programs are built and counted with, from Debian."""
     if not shutil.which("apt-get"):
         raise Failure("there is no apt-get here; the packages would be: " + " ".join(PACKAGES))
     as_root = [] if os.geteuid() == 0 else ["sudo"]
@@ -68,11 +69,11 @@ def install():
          *PACKAGES])
 
 
-def build():
-    """Builds the programs of the preset "bench"."""
+def build(target):
+    """Builds programs of the preset "bench"."""
     log = {"cwd": ROOT, "stdout": sys.stderr}
     run(["cmake", "--preset", "bench"], **log)
-    run(["cmake", "--build", "--preset", "bench", "--target", "compare_programs"], **log)
+    run(["cmake", "--build", "--preset", "bench", "--target", target], **log)
 
 
 def python_with_scipy():

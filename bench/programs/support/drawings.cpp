@@ -8,10 +8,6 @@ namespace {
 
 enum MapStyle : std::int16_t { sigma_classes = 4, ten_bands = 5 };
 
-void draw_contour(wafer& source, PlotCanvas& canvas) {
-  source.D2Contour(canvas, picture_side / 2 - 5, 1, 0, 1, 2, 0, 0, 0, 0, 0);
-}
-
 void draw_values(wafer& source, PlotCanvas& canvas) { source.D2Number(canvas, 0, 0, 0, 0, 0); }
 
 void draw_bars(wafer& source, PlotCanvas& canvas) {
@@ -57,6 +53,10 @@ void draw_surface(wafer& source, PlotCanvas& canvas, int cells) {
   constexpr std::int16_t bands_with_edges = 1;
   const double step = test_diameter / 2 / (cells / 2 - 2);
   source.D3Plot(canvas, step, step, 40, 40, 40, 35, bands_with_edges, 0, false, 0, 0, 0, 0, 0);
+}
+
+void draw_contour(wafer& source, PlotCanvas& canvas) {
+  source.D2Contour(canvas, picture_side / 2 - 5, 1, 0, 1, 2, 0, 0, 0, 0, 0);
 }
 
 void print_color_map(wafer& source, PlotCanvas& page, int cells) {

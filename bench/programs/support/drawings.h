@@ -26,6 +26,8 @@ void draw_color_map(wafer& source, PlotCanvas& canvas, int cells);
 void draw_sigma_map(wafer& source, PlotCanvas& canvas, int cells);
 /// A surface of so many cells along a side, coloured and with edges.
 void draw_surface(wafer& source, PlotCanvas& canvas, int cells);
+/// Curves 1 % of the mean apart, over a net as fine as it can be.
+void draw_contour(wafer& source, PlotCanvas& canvas);
 /// A square colour map on a page, 15 cm wide.
 void print_color_map(wafer& source, PlotCanvas& page, int cells);
 

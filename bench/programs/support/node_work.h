@@ -10,19 +10,19 @@
 
 namespace mirolen::bench {
 
-/// The work of finding the values at all nodes of the finest map, row by row; its result is their sum.
+/// The work of finding the values at all nodes of a map, row by row; its result is their sum.
 /// @param fill_row called with the x, the y and the values of a row. It keeps what it needs.
 template <class FillRow>
-Work node_work(FillRow fill_row) {
+Work node_work(FillRow fill_row, int cells = map_cells) {
   struct State {
-    std::vector<NodeRow> rows = node_rows();
+    std::vector<NodeRow> rows;
     std::vector<std::vector<double>> values;
     FillRow fill_row;
-    explicit State(FillRow fill) : fill_row(std::move(fill)) {
+    State(FillRow fill, int cells) : rows(node_rows(cells)), fill_row(std::move(fill)) {
       for (const NodeRow& row : rows) values.emplace_back(row.x.size());
     }
   };
-  const auto state = std::make_shared<State>(std::move(fill_row));
+  const auto state = std::make_shared<State>(std::move(fill_row), cells);
   return {[state] {
             for (std::size_t at = 0; at < state->rows.size(); ++at)
               state->fill_row(state->rows[at].x, state->rows[at].y, state->values[at]);
