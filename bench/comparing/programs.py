@@ -99,6 +99,12 @@ def commands(folder, binaries):
     }
 
 
+def memory():
+    """Where files wait for no disk, None if there is no such place."""
+    place = pathlib.Path("/dev/shm")
+    return place if os.access(place, os.W_OK) else None
+
+
 def start(folder, binaries):
     """Starts what is there, the heart first: it writes the sites that the others read. @return programs by name."""
     return {name: Program(name, command) for name, command in commands(folder, binaries).items() if command}
