@@ -5,10 +5,8 @@
 #include <stdexcept>
 
 #include "mirolen/core/GlobalFunctions.h"
-#include "mirolen/qt/ImageSurface.h"
-#include "support/Rounds.h"
-#include "support/drawings.h"
 #include "support/node_work.h"
+#include "support/picture_work.h"
 
 namespace mirolen::bench {
 namespace {
@@ -26,25 +24,16 @@ Work interpolation(int sites, int cells) {
       cells);
 }
 
-template <class Draw>
-Work drawing(int sites, const Draw& draw) {
-  const auto source = std::make_shared<wafer>(loaded(uniform_sites(sites)));
-  const auto surface = std::make_shared<qt::ImageSurface>(SurfaceSize{picture_side, picture_side}, 1);
-  return {[=] {
-    on_picture(*surface, [&](PlotCanvas& canvas) { draw(*source, canvas); });
-    surface->pixels();  // with whatever the device has held back
-  }};
-}
-
 Work color_map(int sites, int cells) {
-  return drawing(sites, [=](wafer& source, PlotCanvas& canvas) { draw_color_map(source, canvas, cells); });
+  return picture_work(sites,
+                      [=](wafer& source, PlotCanvas& canvas) { draw_color_map(source, canvas, cells); });
 }
 
 Work surface(int sites, int cells) {
-  return drawing(sites, [=](wafer& source, PlotCanvas& canvas) { draw_surface(source, canvas, cells); });
+  return picture_work(sites, [=](wafer& source, PlotCanvas& canvas) { draw_surface(source, canvas, cells); });
 }
 
-Work contour(int sites, int) { return drawing(sites, draw_contour); }
+Work contour(int sites, int) { return picture_work(sites, draw_contour); }
 
 Works works() {
   constexpr int numbers_of_sites[] = {10, 100, 1000, 10'000, 32'767};

@@ -6,26 +6,17 @@
 #include <QPdfWriter>
 #include <iostream>
 
-#include "mirolen/qt/ImageSurface.h"
 #include "mirolen/qt/PrintJob.h"
 #include "rounds/plain_map.h"
 #include "support/PolygonSurface.h"
-#include "support/Rounds.h"
-#include "support/drawings.h"
+#include "support/picture_work.h"
 
 namespace mirolen::bench {
 namespace {
 
-std::shared_ptr<wafer> usual_wafer() { return std::make_shared<wafer>(loaded(uniform_sites(1000))); }
+constexpr int usual_sites = 1000;
 
-template <class Draw>
-Work picture_work(Draw draw) {
-  const auto surface = std::make_shared<qt::ImageSurface>(SurfaceSize{picture_side, picture_side}, 1);
-  return {[=, w = usual_wafer()] {
-    on_picture(*surface, [&](PlotCanvas& canvas) { draw(*w, canvas); });
-    surface->pixels();  // with whatever the device has held back
-  }};
-}
+std::shared_ptr<wafer> usual_wafer() { return std::make_shared<wafer>(loaded(uniform_sites(usual_sites))); }
 
 /// Draws with a painter that stays on its picture.
 template <class Draw>
@@ -40,7 +31,7 @@ Work polygons_work(Draw draw) {
 
 void add_pictures(Works& works) {
   const auto map = [](wafer& w, PlotCanvas& canvas) { draw_color_map(w, canvas, map_cells); };
-  works["map"] = [=] { return picture_work(map); };
+  works["map"] = [=] { return picture_work(usual_sites, map); };
   works["polygons/map"] = [=] {
     return polygons_work([=, w = usual_wafer()](Surface& surface) {
       on_picture(surface, [&](PlotCanvas& canvas) { map(*w, canvas); });
@@ -51,7 +42,8 @@ void add_pictures(Works& works) {
         [w = plain_loaded(uniform_sites(1000))](Surface& surface) { draw_plain_map(w, surface, map_cells); });
   };
   works["surface"] = [] {
-    return picture_work([](wafer& w, PlotCanvas& canvas) { draw_surface(w, canvas, surface_cells); });
+    return picture_work(usual_sites,
+                        [](wafer& w, PlotCanvas& canvas) { draw_surface(w, canvas, surface_cells); });
   };
 }
 
