@@ -4,7 +4,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-l10n-tools libgl1-mesa-dev libgtest-dev
           libgmock-dev libbenchmark-dev nlohmann-json3-dev fonts-liberation poppler-utils locales xvfb xauth
-          clang-format python3)
+          clang-format python3 valgrind)
 
 as_root() {
   if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
