@@ -94,11 +94,12 @@ class FiveSmallest {
 /// them: each row of cells is one run of sites. A candidate's number is made of its row and its place there.
 class QuickSearch::Block {
  public:
-  Block(const SiteIndex& index, const SiteIndex::Home& low, const SiteIndex::Home& high) {
+  Block(const SiteIndex& index, const SiteIndex::Home& low, const SiteIndex::Home& high)
+      : bottom_(std::max<std::int64_t>(low.y - 1, 0)) {
     const std::int64_t end = index.side() - 1;
     const std::int64_t left = std::max<std::int64_t>(low.x - 1, 0), right = std::min(high.x + 1, end);
-    const std::int64_t bottom = std::max<std::int64_t>(low.y - 1, 0), top = std::min(high.y + 1, end);
-    for (std::int64_t y = bottom; y <= top; ++y) {
+    const std::int64_t top = std::min(high.y + 1, end);
+    for (std::int64_t y = bottom_; y <= top; ++y) {
       const SiteIndex::Run run = index.run(left, right, y);
       fits_ = fits_ && rows_ < most_rows && run.last - run.first <= row_step;
       if (fits_) runs_[rows_++] = run;
@@ -110,14 +111,21 @@ class QuickSearch::Block {
   const SiteIndex::Run& run(std::size_t row) const { return runs_[row]; }
   static std::int32_t first_number(std::size_t row) { return static_cast<std::int32_t>(row * row_step); }
   std::size_t place(float key) const {
-    const std::uint32_t number = std::bit_cast<std::uint32_t>(key) & Lanes::Numbers::most;
+    const std::uint32_t number = number_of(key);
     return runs_[number / row_step].first + number % row_step;
   }
+  /// The y of the candidate's cell.
+  std::int64_t cell_y(float key) const { return bottom_ + number_of(key) / row_step; }
 
  private:
+  static std::uint32_t number_of(float key) {
+    return std::bit_cast<std::uint32_t>(key) & Lanes::Numbers::most;
+  }
+
   static constexpr std::uint32_t row_step = 64;
   static constexpr std::size_t most_rows = (Lanes::Numbers::most + 1) / row_step;
 
+  std::int64_t bottom_;
   bool fits_ = true;
   std::size_t rows_ = 0;
   std::array<SiteIndex::Run, most_rows> runs_;
@@ -132,16 +140,12 @@ QuickSearch::QuickSearch(const SiteIndex& index, std::span<const SiteIndex::Posi
   // The last ones are read by fours, too.
   x_.resize(sites_.size() + at_once);
   y_.resize(sites_.size() + at_once);
-  std::size_t place = 0;
-  for (std::int16_t cy = 0; cy < index.side(); ++cy)
-    for (std::int16_t cx = 0; cx < index.side(); ++cx)
-      for (const std::int16_t number : index.cell(cx, cy)) {
-        const auto site = static_cast<std::size_t>(number);
-        sites_[place] = {positions[site], values[site], cx, cy};
-        x_[place] = static_cast<float>(positions[site].x);
-        y_[place] = static_cast<float>(positions[site].y);
-        ++place;
-      }
+  for (std::size_t place = 0; place < sites_.size(); ++place) {
+    const auto site = static_cast<std::size_t>(index.sites()[place]);
+    sites_[place] = {positions[site], values[site]};
+    x_[place] = static_cast<float>(positions[site].x);
+    y_[place] = static_cast<float>(positions[site].y);
+  }
 }
 
 double QuickSearch::value(const SiteIndex& index, double Xa, double Ya, double farthest) const {
@@ -274,19 +278,21 @@ double QuickSearch::weigh(const SiteIndex& index, const Block& block, const Keys
   }
   if (!(keys[4] > D[3] * D[3] + error_of_key(D[3]))) return weigh_first_met(index, keys, point, farthest);
   if (!(std::max({D[0], D[1], D[2], D[3]}) < farthest)) return unsure;
-  if (!(D[0] < D[1] && D[1] < D[2] && D[2] < D[3])) put_in_order(block, keys, point, D, z);
+  if (!(D[0] < D[1] && D[1] < D[2] && D[2] < D[3])) put_in_order(index, block, keys, point, D, z);
   return ends_behind_one_ring(index, point, D[3]) ? mean_of(D, z) : unsure;
 }
 
 /// Sorts the winners by their distance, and equal ones as the search meets them: by their cells, and within a
 /// cell by their place.
-void QuickSearch::put_in_order(const Block& block, const Keys& keys, const Point& point,
-                               std::array<double, 4>& D, std::array<double, 4>& z) const {
+void QuickSearch::put_in_order(const SiteIndex& index, const Block& block, const Keys& keys,
+                               const Point& point, std::array<double, 4>& D, std::array<double, 4>& z) const {
   std::array<std::size_t, 4> met, rank{};
   for (std::size_t slot = 0; slot < 4; ++slot) {
     const std::size_t place = block.place(keys[slot]);
-    const Site& site = sites_[place];
-    met[slot] = Ring::turn(site.cx - point.home.x, site.cy - point.home.y) * sites_.size() + place;
+    const std::int64_t cy = block.cell_y(keys[slot]);
+    const SiteIndex::Run middle = index.run(point.home.x, point.home.x, cy);
+    const std::int64_t dx = (place >= middle.last) - (place < middle.first);
+    met[slot] = Ring::turn(dx, cy - point.home.y) * sites_.size() + place;
   }
   for (std::size_t a = 0; a < 4; ++a)
     for (std::size_t b = a + 1; b < 4; ++b) {

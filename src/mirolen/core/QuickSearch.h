@@ -37,7 +37,6 @@ class QuickSearch {
  private:
   struct Site : SiteIndex::Position {
     double z = 0;
-    std::int16_t cx = 0, cy = 0;  // its cell
   };
   struct Point : SiteIndex::Position {
     SiteIndex::Home home;
@@ -54,8 +53,8 @@ class QuickSearch {
   static bool ends_behind_one_ring(const SiteIndex& index, const Point& point, double D4);
   double weigh(const SiteIndex& index, const Block& block, const Keys& keys, const Point& point,
                double farthest) const;
-  void put_in_order(const Block& block, const Keys& keys, const Point& point, std::array<double, 4>& D,
-                    std::array<double, 4>& z) const;
+  void put_in_order(const SiteIndex& index, const Block& block, const Keys& keys, const Point& point,
+                    std::array<double, 4>& D, std::array<double, 4>& z) const;
   double weigh_first_met(const SiteIndex& index, const Keys& keys, const Point& point, double farthest) const;
   static double mean_of(const std::array<double, 4>& D, const std::array<double, 4>& z);
 
