@@ -14,6 +14,7 @@ int DrawnImage::edge(double logical) const {
 QImage& DrawnImage::settled() {
   end_run();
   painter_.reset();
+  font_.reset();  // the fonts of the application may change up to the next text
   return image_;
 }
 
@@ -47,6 +48,21 @@ QPainter& DrawnImage::painter(const Pen& pen, const Brush& brush, bool smooth) {
   if (painter_->testRenderHint(QPainter::Antialiasing) != smooth)
     painter_->setRenderHint(QPainter::Antialiasing, smooth);
   return *painter_;
+}
+
+ShownFont& DrawnImage::font(const FontSpec& spec) {
+  if (!font_ || font_->spec() != spec) {
+    font_.emplace(spec, image_, ratio_);
+    in_font_ = false;
+  }
+  return *font_;
+}
+
+QPainter& DrawnImage::text_painter(Color color) {
+  QPainter& writing = painter({color}, {0, false}, false);
+  if (!in_font_) writing.setFont(font_->font());
+  in_font_ = true;
+  return writing;
 }
 
 }  // namespace mirolen::qt

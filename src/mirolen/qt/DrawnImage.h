@@ -4,12 +4,13 @@
 #include <QPainter>
 #include <optional>
 
+#include "mirolen/qt/ShownFont.h"
 #include "mirolen/qt/painting.h"
 
 namespace mirolen::qt {
 
 /// An image that is drawn on in many small calls. Cells side by side in one colour are filled as one, and a
-/// painter stays at work, with its pen and brush, from one call to the next; the pixels are those of a
+/// painter stays at work, with its pen, brush and font, from one call to the next; the pixels are those of a
 /// painter and a box for each call.
 class DrawnImage {
  public:
@@ -28,6 +29,10 @@ class DrawnImage {
   void fill(const QRect& box, Color color);
   /// A painter for the next drawing, in device pixels.
   QPainter& painter(const Pen& pen, const Brush& brush, bool smooth);
+  /// A font for the next text.
+  ShownFont& font(const FontSpec& spec);
+  /// A painter for the next text, in the font that was asked for last.
+  QPainter& text_painter(Color color);
 
  private:
   void end_run();
@@ -38,6 +43,8 @@ class DrawnImage {
   std::optional<QPainter> painter_;
   Pen pen_;  // the painter's
   Brush brush_;
+  std::optional<ShownFont> font_;
+  bool in_font_ = false;  // whether it is the painter's
 };
 
 }  // namespace mirolen::qt

@@ -1,6 +1,5 @@
 #include "mirolen/qt/ImageSurface.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QVarLengthArray>
 #include <algorithm>
@@ -147,18 +146,15 @@ void ImageSurface::text(const FontSpec& font, Color color, std::optional<Color> 
     const SurfaceSize size = measure(font, text);
     image_->fill(device_box({place, {place.x + size.width - 1, place.y + size.height - 1}}), *background);
   }
-  QImage& image = image_->settled();
-  QPainter painter(&image);
-  painter.setFont(font_of(font, image, ratio()));
-  painter.setPen(qcolor_of(color));
+  const QString& shown = image_->font(font).text(text).shown;
+  QPainter& painter = image_->text_painter(color);
   painter.drawText(QPointF(image_->edge(place.x), image_->edge(place.y) + painter.fontMetrics().ascent()),
-                   shown_text(font, text));
+                   shown);
 }
 
 SurfaceSize ImageSurface::measure(const FontSpec& font, std::string_view text) const {
-  QImage& image = image_->settled();
-  const QFontMetricsF metrics(font_of(font, image, ratio()), &image);
-  return {metrics.horizontalAdvance(shown_text(font, text)) / ratio(), metrics.height() / ratio()};
+  ShownFont& shown = image_->font(font);
+  return {shown.text(text).width / ratio(), shown.height() / ratio()};
 }
 
 void ImageSurface::flood_fill(const Brush& brush, PixelPoint seed, Color boundary) {
