@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 #include "support/site_support.h"
@@ -81,6 +82,20 @@ TEST(QuickSearch, WithoutSitesIsNeverSure) {
   EXPECT_TRUE(std::isnan(QuickSearch().value(SiteIndex(), 0, 0, far_enough)));
 }
 
+double mean_of_the_four_nearest(const Searched& searched, double x, double y) {
+  std::vector<std::pair<double, double>> sites;
+  for (std::size_t i = 0; i < searched.positions.size(); ++i)
+    sites.emplace_back(std::hypot(searched.positions[i].x - x, searched.positions[i].y - y),
+                       searched.values[i]);
+  std::sort(sites.begin(), sites.end());
+  double above = 0, below = 0;
+  for (std::size_t i = 0; i < 4; ++i) {
+    above += sites[i].second / (sites[i].first * sites[i].first);
+    below += 1 / (sites[i].first * sites[i].first);
+  }
+  return above / below;
+}
+
 /// A grid whose pitch is 8 mm, and a value for each site.
 Searched grid_of_sites() {
   Searched searched;
@@ -104,6 +119,23 @@ TEST(QuickSearch, TakesTheValueOfASiteVeryNear) {
   const Searched grid = grid_of_sites();
   EXPECT_EQ(grid.quick.value(grid.index, 16 + 5e-5, 24 + 1e-5, far_enough), 2 + 300);
   EXPECT_EQ(grid.quick.value(grid.index, 16, 24, far_enough), 2 + 300);
+}
+
+TEST(QuickSearch, TakesTheFourNearestThoughSinglePrecisionRanksThemOtherwise) {
+  // All seven lie within the error of their keys of each other, and the point lies far from the centre.
+  Searched close;
+  close.positions = {
+      {0x1.006c1718f9ddap+7, 0x1.007ae0dba8e6ep+7}, {0x1.00302f0019f2cp+7, 0x1.00483ba94a25bp+7},
+      {0x1.00307f7cdcb0dp+7, 0x1.0047f42fde534p+7}, {0x1.002ae8ffa4179p+7, 0x1.004e54be1a87p+7},
+      {0x1.002bb311ee2f1p+7, 0x1.004d3e3508d19p+7}, {0x1.0065c74833633p+7, 0x1.00822f09f3e53p+7},
+      {0x1.006a99385965bp+7, 0x1.007cf51fe91c9p+7}};
+  close.values = {1, 2, 4, 8, 16, 32, 64};
+  close.index = SiteIndex(2.5262, 51, close.positions);
+  close.quick = QuickSearch(close.index, close.positions, close.values);
+
+  const double x = 0x1.004b42fb348ebp+7, y = 0x1.0064f4ff78309p+7;
+  const double value = close.quick.value(close.index, x, y, far_enough);
+  EXPECT_DOUBLE_EQ(value, mean_of_the_four_nearest(close, x, y));
 }
 
 TEST(QuickSearch, IsNotSureInACrowd) {

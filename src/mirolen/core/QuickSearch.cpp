@@ -276,10 +276,12 @@ double QuickSearch::weigh(const SiteIndex& index, const Block& block, const Keys
     D[slot] = distance(point, site);
     z[slot] = site.z;
   }
-  if (!(keys[4] > D[3] * D[3] + error_of_key(D[3]))) return weigh_first_met(index, keys, point, farthest);
-  if (!(std::max({D[0], D[1], D[2], D[3]}) < farthest)) return unsure;
+  // The keys may rank the winners wrongly: the last of them need not be the farthest.
+  const double D4 = std::max({D[0], D[1], D[2], D[3]});
+  if (!(keys[4] > D4 * D4 + error_of_key(D4))) return weigh_first_met(index, keys, point, farthest);
+  if (!(D4 < farthest)) return unsure;
   if (!(D[0] < D[1] && D[1] < D[2] && D[2] < D[3])) put_in_order(index, block, keys, point, D, z);
-  return ends_behind_one_ring(index, point, D[3]) ? mean_of(D, z) : unsure;
+  return ends_behind_one_ring(index, point, D4) ? mean_of(D, z) : unsure;
 }
 
 /// Sorts the winners by their distance, and equal ones as the search meets them: by their cells, and within a
