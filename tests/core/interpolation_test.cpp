@@ -339,7 +339,7 @@ struct Pair {
 };
 
 void fill_with_random_sites(Random& random, Layout layout, int count, Pair& pair) {
-  const double diameter = one_of<double>(random, {50, 100, 200, 300, 450});
+  const double diameter = one_of<double>(random, {0.5, 2, 50, 100, 200, 300, 450});
   const double share = one_of<double>(random, {0, 1e-7, 1e-3, 0.03, 0.3, 0.98, 1, 1, 1, 2});
   pair.set(diameter, diameter * share);
   SiteList sites = positions(random, layout, count, pair.radius);
