@@ -470,6 +470,28 @@ TEST_P(InterpolationOfRandomSites, GivesTheSameResultForTheSamePoint) {
   }
 }
 
+/// Close by a line between cells the neighbours belong to another ring; a row of points crosses it step by
+/// step.
+TEST_P(InterpolationOfRandomSites, OfRowsAcrossALineBetweenCellsEqualsThePlainAlgorithm) {
+  for (int set = 0; set < rounds(60); ++set) {
+    Pair pair;
+    fill_with_random_sites(random, GetParam(), between(random, 10, 60), pair);
+    const double cell = std::sqrt(pair.radius * pair.radius * 4 * std::atan(1.0) * 4 / pair.plain.GetNop());
+    for (int row = 0; row < 10; ++row) {
+      const double line = (between(random, -1, 1) + 0.5) * cell,
+                   along = between(random, -0.9, 0.9) * pair.radius;
+      const double step = cell * one_of<double>(random, {1e-14, 1e-10, 1e-4, 0.002, 0.01});
+      const bool upright = chance(random, 0.5);
+      SiteList points;
+      for (int i = -20; i <= 20; ++i) {
+        const double across = line + i * step;
+        points.push_back(upright ? Site{along, across, 0} : Site{across, along, 0});
+      }
+      ASSERT_NO_FATAL_FAILURE(expect_same_bits(pair, points));
+    }
+  }
+}
+
 class InterpolationOfShuffledSites : public RandomInput {
  protected:
   /// A grid whose sites are moved a little, so that no two are equally far from a point.
