@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "mirolen/core/FiveSmallest.h"
 #include "mirolen/core/Lanes.h"
 #include "mirolen/core/NearestFour.h"
 #include "mirolen/core/Ring.h"
@@ -15,78 +16,6 @@ namespace {
 
 constexpr std::int32_t at_once = 4;
 constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr float nothing = std::numeric_limits<float>::max();
-
-double square(const SiteIndex::Position& a, const SiteIndex::Position& b) {
-  return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y);
-}
-
-double distance(const SiteIndex::Position& a, const SiteIndex::Position& b) {
-  return std::sqrt(square(a, b));
-}
-
-/// The five smallest keys that each lane has met, smallest first. A key is a squared distance whose lowest
-/// bits carry the candidate's number. One that is not a number is passed over.
-class FiveSmallest {
- public:
-  void insert(Lanes key) {
-    pass(a_, key);
-    pass(b_, key);
-    pass(c_, key);
-    pass(d_, key);
-    e_ = lesser(key, e_);
-  }
-
-  /// Four keys at once, for two thirds of the price.
-  void insert(Lanes p, Lanes q, Lanes r, Lanes s) {
-    order(p, q);
-    order(r, s);
-    order(p, r);
-    order(q, s);
-    order(q, r);
-    b_ = lesser(s, b_), c_ = lesser(r, c_), d_ = lesser(q, d_), e_ = lesser(p, e_);
-    order_hill();
-  }
-
-  /// Makes them the five smallest of all lanes together.
-  void join_lanes() {
-    join([](Lanes lanes) { return lanes.halves_swapped(); });
-    join([](Lanes lanes) { return lanes.neighbours_swapped(); });
-  }
-
-  std::array<float, 5> lane(std::size_t i) const { return {a_[i], b_[i], c_[i], d_[i], e_[i]}; }
-
- private:
-  /// Keeps the lesser of a place's key and this one, and passes the greater on.
-  static void pass(Lanes& place, Lanes& key) {
-    const Lanes less = lesser(key, place);
-    key = greater(place, key);
-    place = less;
-  }
-  /// Puts two keys in order.
-  static void order(Lanes& low, Lanes& high) { pass(low, high); }
-
-  /// Of two ascending rows, one of them reversed, the lesser of each pair are the five smallest of both.
-  template <class Other>
-  void join(Other other) {
-    const Lanes a = other(a_), b = other(b_), c = other(c_), d = other(d_), e = other(e_);
-    a_ = lesser(a_, e), b_ = lesser(b_, d), c_ = lesser(c_, c), d_ = lesser(d_, b), e_ = lesser(e_, a);
-    order_hill();
-  }
-  /// Puts keys in order that rise and then fall: the least is at an end, and four exchanges order the others.
-  void order_hill() {
-    order(a_, e_);
-    order(e_, c_);
-    order(b_, d_);
-    order(e_, b_);
-    order(c_, d_);
-    const Lanes last = d_;
-    d_ = c_, c_ = b_, b_ = e_, e_ = last;
-  }
-
-  // Not an array, so that they stay in registers.
-  Lanes a_ = Lanes::all(nothing), b_ = a_, c_ = a_, d_ = a_, e_ = a_;
-};
 
 }  // namespace
 
@@ -269,7 +198,7 @@ bool QuickSearch::ends_behind_one_ring(const SiteIndex& index, const Point& poin
 
 double QuickSearch::weigh(const SiteIndex& index, const Block& block, const Keys& keys, const Point& point,
                           double farthest) const {
-  if (!(keys[3] < nothing)) return unsure;
+  if (!(keys[3] < FiveSmallest::nothing)) return unsure;
   std::array<double, 4> z, D;
   for (std::size_t slot = 0; slot < 4; ++slot) {
     const Site& site = sites_[block.place(keys[slot])];
@@ -318,7 +247,7 @@ double QuickSearch::weigh_first_met(const SiteIndex& index, const Keys& keys, co
   const auto insert_cell = [&](std::int64_t cx, std::int64_t cy) {
     const auto [first, last] = index.run(cx, cx, cy);
     for (std::uint32_t place = first; place < last; ++place)
-      if (square(point, sites_[place]) <= bound)
+      if (square_of_distance(point, sites_[place]) <= bound)
         nearest.insert(static_cast<std::int32_t>(place), distance(point, sites_[place]));
   };
   insert_cell(point.home.x, point.home.y);

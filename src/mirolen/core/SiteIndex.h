@@ -77,6 +77,14 @@ class SiteIndex {
   std::vector<std::int16_t> sites_;
 };
 
+inline double square_of_distance(const SiteIndex::Position& a, const SiteIndex::Position& b) {
+  return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y);
+}
+
+inline double distance(const SiteIndex::Position& a, const SiteIndex::Position& b) {
+  return std::sqrt(square_of_distance(a, b));
+}
+
 // In the header, since every interpolation begins with it.
 inline SiteIndex::Home SiteIndex::home(double Xa, double Ya) const {
   constexpr double rounds_to_16_bits = 32767.5;

@@ -11,10 +11,6 @@ namespace {
 
 constexpr double fewest_sites = 4;
 
-double distance(double Xa, double Ya, double x, double y) {
-  return std::sqrt((Xa - x) * (Xa - x) + (Ya - y) * (Ya - y));
-}
-
 /// The value for the four slots, given the value of a site by its number.
 template <class ValueOf>
 double value_from(const NearestFour& nearest, ValueOf value_of) {
@@ -72,7 +68,7 @@ double wafer::mean_of_near_sites(double Xa, double Ya) const {
   const auto insert_cell = [&](std::int64_t cx, std::int64_t cy) {
     for (const std::int16_t site : SiteCells.cell(cx, cy)) {
       const Position& at = GridPos[static_cast<std::size_t>(site)];
-      nearest.insert(site, distance(Xa, Ya, at.x, at.y));
+      nearest.insert(site, distance({Xa, Ya}, at));
     }
   };
 
@@ -99,7 +95,7 @@ double wafer::Interpolation_Einfach(double Xa, double Ya) const {
   NearestFour nearest(3 * R, 4 * R, 0);
   for (std::int32_t site = 1; site <= n; ++site) {
     const Position& at = position_of(site);
-    nearest.insert(site, checked(distance(Xa, Ya, at.x, at.y)));
+    nearest.insert(site, checked(distance({Xa, Ya}, at)));
   }
   return value_from(nearest, [&](std::int32_t site) { return value_of(site); });
 }
