@@ -23,15 +23,14 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 /// them: each row of cells is one run of sites. A candidate's number is made of its row and its place there.
 class QuickSearch::Block {
  public:
-  Block(const SiteIndex& index, const SiteIndex::Home& low, const SiteIndex::Home& high)
-      : bottom_(std::max<std::int64_t>(low.y - 1, 0)) {
-    const std::int64_t end = index.side() - 1;
-    const std::int64_t left = std::max<std::int64_t>(low.x - 1, 0), right = std::min(high.x + 1, end);
-    const std::int64_t top = std::min(high.y + 1, end);
-    for (std::int64_t y = bottom_; y <= top; ++y) {
-      const SiteIndex::Run run = index.run(left, right, y);
-      fits_ = fits_ && rows_ < most_rows && run.last - run.first <= row_step;
-      if (fits_) runs_[rows_++] = run;
+  Block(const QuickSearch& search, const SiteIndex::Home& low, const SiteIndex::Home& high)
+      : bottom_(low.y - 1), rows_(static_cast<std::size_t>(high.y - low.y + 3)) {
+    fits_ = rows_ <= most_rows;
+    const std::uint32_t* left = &search.first_[search.cell(low.x - 1, bottom_)];
+    const std::int64_t width = high.x - low.x + 3;
+    for (std::size_t row = 0; fits_ && row < rows_; ++row, left += search.stride_) {
+      runs_[row] = {left[0], left[width]};
+      fits_ = runs_[row].last - runs_[row].first <= row_step;
     }
   }
 
@@ -55,8 +54,8 @@ class QuickSearch::Block {
   static constexpr std::size_t most_rows = (Lanes::Numbers::most + 1) / row_step;
 
   std::int64_t bottom_;
-  bool fits_ = true;
-  std::size_t rows_ = 0;
+  std::size_t rows_;
+  bool fits_;
   std::array<SiteIndex::Run, most_rows> runs_;
 };
 
@@ -65,6 +64,16 @@ QuickSearch::QuickSearch(const SiteIndex& index, std::span<const SiteIndex::Posi
   // Beyond these sizes single precision would not hold the squares.
   if (!(index.GridCell() > 1e-9 && index.GridCell() < 1e9)) return;
   coordinate_error_ = (index.HalfCells() + 1) * index.GridCell() * 0x1p-24;
+  stride_ = index.side() + 2;
+  first_.resize(static_cast<std::size_t>(stride_ * stride_) + 1);
+  std::size_t cell = 0;
+  std::uint32_t end = 0;
+  for (std::int64_t cy = -1; cy <= index.side(); ++cy)
+    for (std::int64_t cx = -1; cx <= index.side(); ++cx) {
+      first_[cell++] = end;
+      if (index.contains(cx, cy)) end = index.run(cx, cx, cy).last;
+    }
+  first_[cell] = end;
   sites_.resize(index.sites().size());
   // The last ones are read by fours, too.
   x_.resize(sites_.size() + at_once);
@@ -83,7 +92,7 @@ double QuickSearch::value(const SiteIndex& index, double Xa, double Ya, double f
 
 double QuickSearch::value(const SiteIndex& index, const Point& point, double farthest) const {
   if (sites_.empty() || !index.contains(point.home)) return unsure;
-  const Block block(index, point.home, point.home);
+  const Block block(*this, point.home, point.home);
   return block.fits() ? weigh(index, block, nearest(block, point), point, farthest) : unsure;
 }
 
@@ -166,7 +175,7 @@ std::array<double, 4> QuickSearch::values(const SiteIndex& index, const FourPoin
   std::array<double, 4> results{unsure, unsure, unsure, unsure};
   const bool one_home = low.x == high.x && low.y == high.y;
   if (inside && high.x - low.x <= 2 && high.y - low.y <= 2) {
-    const Block block(index, low, high);
+    const Block block(*this, low, high);
     // A block round more than one home has cells that a point's own ring lacks; they are at least so far off.
     const double nearer = one_home ? farthest : std::min(farthest, 0.999 * index.GridCell());
     if (block.fits()) {

@@ -58,7 +58,14 @@ class QuickSearch {
   double weigh_first_met(const SiteIndex& index, const Keys& keys, const Point& point, double farthest) const;
   static double mean_of(const std::array<double, 4>& D, const std::array<double, 4>& z);
 
+  std::size_t cell(std::int64_t cx, std::int64_t cy) const {
+    return static_cast<std::size_t>((cy + 1) * stride_ + cx + 1);
+  }
+
   double coordinate_error_ = 0;
+  // Where the sites of each cell begin, row by row; round the cells of the index lies a rim of empty ones.
+  std::int64_t stride_ = 0;
+  std::vector<std::uint32_t> first_;
   std::vector<float> x_, y_;  // in the order of the index, as are the sites
   std::vector<Site> sites_;
 };
