@@ -9,6 +9,8 @@ else()
   # Results are told to the last bit, so no multiplication may melt into an addition.
   target_compile_options(mirolen_options INTERFACE -ffp-contract=off -Wall -Wextra -Wpedantic -Wnon-virtual-dtor
                          -Woverloaded-virtual $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>
+                         # Position-independent code may inline its own functions, too: nobody replaces one of them.
+                         $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>
                          $<$<BOOL:${MIROLEN_WARNINGS_AS_ERRORS}>:-Werror>)
 endif()
 if(MIROLEN_SANITIZE)
