@@ -4,8 +4,10 @@
 #include <malloc.h>
 
 #include <QApplication>
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -15,8 +17,6 @@
 
 namespace mirolen {
 namespace {
-
-constexpr std::int64_t small = 16'000;  // what the allocator keeps in hand
 
 /// The bytes that all of the program holds at present.
 std::int64_t held_bytes() {
@@ -39,19 +39,24 @@ std::unique_ptr<qt::PlotWidget> shown_plot(const char* name) {
   return face;
 }
 
-/// The bytes that are held longer, after so many redraws.
+void redraw(qt::PlotWidget& face, int times) {
+  for (int i = 0; i < times; ++i) {
+    face.SetPlotNotVaild();
+    ASSERT_EQ(face.Plot(), 0);
+    QApplication::processEvents();
+  }
+}
+
+/// The bytes that are held longer after each fourth of so many redraws, in the fourth where they are fewest:
+/// what is lost is lost in all of them, while a cache grows once.
 std::int64_t growth(qt::PlotWidget& face, int redraws) {
-  const auto redraw = [&](int times) {
-    for (int i = 0; i < times; ++i) {
-      face.SetPlotNotVaild();
-      ASSERT_EQ(face.Plot(), 0);
-      QApplication::processEvents();
-    }
-  };
-  redraw(50);  // caches of glyphs, pictures and events
-  const std::int64_t before = held_bytes();
-  redraw(redraws);
-  return held_bytes() - before;
+  std::int64_t least = std::numeric_limits<std::int64_t>::max();
+  for (int fourth = 0; fourth < 4; ++fourth) {
+    const std::int64_t before = held_bytes();
+    redraw(face, redraws / 4);
+    least = std::min(least, held_bytes() - before);
+  }
+  return least;
 }
 
 class Redrawing : public testing::TestWithParam<const char*> {};
@@ -63,12 +68,12 @@ INSTANTIATE_TEST_SUITE_P(All, Redrawing,
 
 TEST_P(Redrawing, HoldsNoMoreMemoryInTheEnd) {
   const auto face = shown_plot(GetParam());
-  EXPECT_LT(growth(*face, 1000), small) << "16 bytes a redraw are too many";
+  EXPECT_LT(growth(*face, 1000), 4000) << "16 bytes a redraw are too many";
 }
 
 TEST(Redrawing, TenThousandTimesHoldsNoMoreMemoryInTheEnd) {
   const auto face = shown_plot("Plot2D");
-  EXPECT_LT(growth(*face, 10'000), small);
+  EXPECT_LT(growth(*face, 10'000), 4000);
 }
 
 }  // namespace
