@@ -4,6 +4,7 @@
 
 #include "mirolen/widgets/PictureBox.h"
 #include "mirolen/widgets/widgets.h"
+#include "support/NullSurface.h"
 
 namespace mirolen {
 namespace {
@@ -63,28 +64,12 @@ TEST(HeadlessToolkit, MeasuresWithFixedMetricsInPixels) {
   EXPECT_NEAR(size.height, 1.2 * 10 * 20 / 15, 1e-9);
 }
 
-/// Its pictures cannot be read back.
+/// Its pictures record nothing.
 class BlindToolkit : public HeadlessToolkit {
-  class Hidden : public Surface {
-   public:
-    SurfaceSize size() const override { return {1, 1}; }
-    SurfaceSize twips_per_pixel() const override { return {15, 15}; }
-    void clear(Color) override {}
-    void line(const Pen&, SurfacePoint, SurfacePoint) override {}
-    void rectangle(const Pen&, const Brush&, const SurfaceBox&) override {}
-    void ellipse(const Pen&, const Brush&, SurfacePoint, SurfaceSize) override {}
-    void arc(const Pen&, SurfacePoint, SurfaceSize, double, double) override {}
-    void polygon(const Pen&, const Brush&, std::span<const PixelPoint>) override {}
-    void text(const FontSpec&, Color, std::optional<Color>, SurfacePoint, std::string_view) override {}
-    SurfaceSize measure(const FontSpec&, std::string_view) const override { return {}; }
-    void flood_fill(const Brush&, PixelPoint, Color) override {}
-    void restore(const mirolen::Image&) override {}
-    std::shared_ptr<const Image> snapshot() const override { return nullptr; }
-    void refresh() override {}
-  };
-
  public:
-  std::unique_ptr<Surface> make_surface(PictureBox&) override { return std::make_unique<Hidden>(); }
+  std::unique_ptr<Surface> make_surface(PictureBox&) override {
+    return std::make_unique<NullSurface>(SurfaceSize{1, 1});
+  }
 };
 
 TEST(HeadlessToolkit, HasNoRecordingOfAForeignPicture) {
