@@ -130,7 +130,8 @@ class wafer {
   /// Never throws. Looks only at sites near the point from 10 sites up, at all sites below.
   double Interpolation(double Xa, double Ya) const;
   /// The same at many points at once, to the last bit; cheapest where points follow each other closely, as
-  /// along a row of a grid. @throws SubscriptOutOfRange where the three are not equally long.
+  /// along a row of a grid. values lies apart from the points. @throws SubscriptOutOfRange where the three
+  /// are not equally long.
   void Interpolation(std::span<const double> Xa, std::span<const double> Ya, std::span<double> values) const;
   /// The same by a scan of all sites. Cost: linear in the number of sites.
   /// @throws SubscriptOutOfRange where fewer than four sites lie within 1.5 wafer diameters, OverflowError.
