@@ -283,10 +283,11 @@ TEST(Interpolation, SeesAnOverwrittenSiteWithoutNewStatistics) {
 
 // ---- Against the plain algorithm ----
 
-enum class Layout { kUniform, kGrid, kDuplicates, kClusters, kLine, kCrowd };
+enum class Layout { kUniform, kGrid, kDuplicates, kClusters, kLine, kCrowd, kCircles };
 
 void PrintTo(Layout layout, std::ostream* out) {
-  static const std::vector<std::string> names{"Uniform", "Grid", "Duplicates", "Clusters", "Line", "Crowd"};
+  static const std::vector<std::string> names{"Uniform", "Grid",  "Duplicates", "Clusters",
+                                              "Line",    "Crowd", "Circles"};
   *out << names[static_cast<std::size_t>(layout)];
 }
 
@@ -295,6 +296,14 @@ Site anywhere(Random& random, double radius) {
     const Site site{between(random, -radius, radius), between(random, -radius, radius), 0};
     if (std::hypot(site.x, site.y) <= radius) return site;
   }
+}
+
+/// On one of three circles with 12, 16 and 24 places for sites, all exactly as far from the centre.
+Site on_a_circle(Random& random, double unit) {
+  const auto [far, near] =
+      one_of<std::pair<int, int>>(random, {{5, 0}, {4, 3}, {8, 1}, {7, 4}, {18, 1}, {17, 6}, {15, 10}});
+  const int across = chance(random, 0.5) ? far : -far, along = chance(random, 0.5) ? near : -near;
+  return chance(random, 0.5) ? Site{across * unit, along * unit, 0} : Site{along * unit, across * unit, 0};
 }
 
 /// Positions inside the wafer; a grid has exact ties, its sites come row by row.
@@ -312,6 +321,7 @@ SiteList positions(Random& random, Layout layout, int count, double radius) {
     if (layout == Layout::kClusters) site = {centre.x + spread, centre.y + site.y * 0.01, 0};
     if (layout == Layout::kLine) site = {9 * spread * std::cos(angle), 9 * spread * std::sin(angle), 0};
     if (layout == Layout::kCrowd) site = {centre.x + site.x * 1e-4, centre.y + site.y * 1e-4, 0};
+    if (layout == Layout::kCircles) site = on_a_circle(random, radius / 32);
     sites.push_back(site);
   }
   return sites;
@@ -367,6 +377,8 @@ Site point_of_interest(Random& random, const Pair& pair) {
       return anywhere(random, 3 * pair.radius);
     case 5:
       return anywhere(random, 12 * pair.radius);
+    case 6:
+      return {0, 0, 0};
     default:
       return anywhere(random, pair.radius);
   }
@@ -419,7 +431,7 @@ std::string name_of(const testing::TestParamInfo<Layout>& layout) {
 
 INSTANTIATE_TEST_SUITE_P(Layouts, InterpolationOfRandomSites,
                          testing::Values(Layout::kUniform, Layout::kGrid, Layout::kDuplicates,
-                                         Layout::kClusters, Layout::kLine, Layout::kCrowd),
+                                         Layout::kClusters, Layout::kLine, Layout::kCrowd, Layout::kCircles),
                          name_of);
 
 TEST_P(InterpolationOfRandomSites, EqualsThePlainAlgorithmToTheLastBit) {

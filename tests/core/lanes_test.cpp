@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
@@ -26,6 +27,11 @@ std::vector<Bits> results(const Four& left, const Four& right, std::int32_t numb
   auto counting = Lanes::Numbers::from(number), same = Lanes::Numbers::all(number);
   counting += 4;
   same += 1;
+  Bits stored;
+  Four four;
+  b.store(four.data());
+  std::transform(four.begin(), four.end(), stored.begin(),
+                 [](float lane) { return std::bit_cast<std::uint32_t>(lane); });
   return {bits_of(a),
           bits_of(Lanes::all(left[2])),
           bits_of(a + b),
@@ -35,9 +41,10 @@ std::vector<Bits> results(const Four& left, const Four& right, std::int32_t numb
           bits_of(greater(a, b)),
           bits_of(a.numbered(counting)),
           bits_of(a.numbered(same)),
-          bits_of(a.first(few)),
+          bits_of(a.first(few, 3.5F)),
           bits_of(a.halves_swapped()),
-          bits_of(a.neighbours_swapped())};
+          bits_of(a.neighbours_swapped()),
+          stored};
 }
 
 Four four_of(Random& random) {
@@ -54,6 +61,8 @@ TEST_F(LanesOfRandomNumbers, AreThePlainOnes) {
     const std::int32_t number = between(random, 0, 500);
     const auto few = static_cast<std::uint32_t>(between(random, 0, 4));
     ASSERT_EQ(results<Lanes>(a, b, number, few), results<PlainLanes>(a, b, number, few));
+    const float bound = a[static_cast<std::size_t>(between(random, 0, 3))];
+    ASSERT_EQ(Lanes::load(a.data()).at_most(bound), PlainLanes::load(a.data()).at_most(bound));
   }
 }
 
@@ -70,9 +79,31 @@ TEST(Lanes, GiveTheSecondOfTwoWhereOneIsNotANumber) {
 }
 
 TEST(Lanes, KeepTheirFirstFew) {
-  const Lanes three = Lanes::all(7).first(3);
+  const Lanes three = Lanes::all(7).first(3, 1e38F);
   EXPECT_EQ(three[2], 7);
-  EXPECT_TRUE(std::isnan(three[3]));
+  EXPECT_EQ(three[3], 1e38F);
+}
+
+TEST(Lanes, TellWhichOfThemAreNotAboveABound) {
+  const Four four{5, -1, 7, 5.5F};
+  EXPECT_EQ(Lanes::load(four.data()).at_most(5), 0b0011U);
+  EXPECT_EQ(PlainLanes::load(four.data()).at_most(5), 0b0011U);
+}
+
+TEST(Lanes, ChangePlacesWithTheirFours) {
+  const auto check = []<class Lanes>(Lanes) {
+    std::array<Lanes, 4> rows;
+    for (std::size_t row = 0; row < 4; ++row) {
+      const auto ten = static_cast<float>(10 * row);
+      const Four four{ten, ten + 1, ten + 2, ten + 3};
+      rows[row] = Lanes::load(four.data());
+    }
+    const std::array<Lanes, 4> columns = Lanes::transposed(rows);
+    for (std::size_t row = 0; row < 4; ++row)
+      for (std::size_t lane = 0; lane < 4; ++lane) EXPECT_EQ(columns[lane][row], rows[row][lane]);
+  };
+  check(PlainLanes::all(0));
+  check(Lanes::all(0));
 }
 
 TEST(Lanes, CarryNumbersInTheirLowestBits) {

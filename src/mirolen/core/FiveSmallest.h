@@ -8,6 +8,12 @@
 
 namespace mirolen {
 
+/// Five keys, smallest first.
+struct FiveKeys {
+  alignas(16) std::array<float, 4> nearest;
+  float fifth;
+};
+
 /// The five smallest keys that each lane has met, smallest first. A key is a squared distance whose lowest
 /// bits carry the candidate's number. One that is not a number is passed over.
 class FiveSmallest {
@@ -20,7 +26,7 @@ class FiveSmallest {
     pass(b_, key);
     pass(c_, key);
     pass(d_, key);
-    e_ = lesser(key, e_);
+    e_ = lesser(e_, key);
   }
 
   /// Four keys at once, for two thirds of the price.
@@ -40,14 +46,24 @@ class FiveSmallest {
     join([](Lanes lanes) { return lanes.neighbours_swapped(); });
   }
 
-  std::array<float, 5> lane(std::size_t i) const { return {a_[i], b_[i], c_[i], d_[i], e_[i]}; }
+  /// Those of the first lane, and of each.
+  FiveKeys first_lane() const { return lanes()[0]; }
+  std::array<FiveKeys, 4> lanes() const {
+    const std::array<Lanes, 4> nearest = Lanes::transposed({a_, b_, c_, d_});
+    std::array<FiveKeys, 4> result;
+    for (std::size_t i = 0; i < 4; ++i) {
+      nearest[i].store(result[i].nearest.data());
+      result[i].fifth = e_[i];
+    }
+    return result;
+  }
 
  private:
   /// Keeps the lesser of a place's key and this one, and passes the greater on.
   static void pass(Lanes& place, Lanes& key) {
-    const Lanes less = lesser(key, place);
-    key = greater(place, key);
-    place = less;
+    const Lanes more = greater(key, place);
+    place = lesser(place, key);
+    key = more;
   }
   /// Puts two keys in order.
   static void order(Lanes& low, Lanes& high) { pass(low, high); }

@@ -10,6 +10,8 @@
 
 namespace mirolen {
 
+struct FiveKeys;
+
 /// A point nearer to a site than this takes the site's own value, millimetres.
 constexpr double on_a_site = 0.0001;
 
@@ -35,34 +37,36 @@ class QuickSearch {
               std::span<double> results) const;
 
  private:
-  struct Site : SiteIndex::Position {
+  using Position = SiteIndex::Position;
+  struct Site : Position {
     double z = 0;
   };
-  struct Point : SiteIndex::Position {
-    SiteIndex::Home home;
+  struct FourPoints {
+    std::span<const double, 4> x, y;
   };
-  using Keys = std::array<float, 5>;
-  using FourPoints = std::array<Point, 4>;
   class Block;
+  struct Winners;
 
-  double value(const SiteIndex& index, const Point& point, double farthest) const;
-  std::array<double, 4> values(const SiteIndex& index, const FourPoints& points, double farthest) const;
-  Keys nearest(const Block& block, const Point& point) const;
-  std::array<Keys, 4> nearest(const Block& block, const FourPoints& points) const;
-  double error_of_key(double distance) const;
-  static bool ends_behind_one_ring(const SiteIndex& index, const Point& point, double D4);
-  double weigh(const SiteIndex& index, const Block& block, const Keys& keys, const Point& point,
+  void values(const SiteIndex& index, const FourPoints& points, double farthest,
+              std::span<double, 4> results) const;
+  template <class Take>
+  void visit_keys(const Block& block, const Position& point, Take take) const;
+  FiveKeys nearest(const Block& block, const Position& point) const;
+  std::array<FiveKeys, 4> nearest(const Block& block, const FourPoints& points) const;
+  double weigh(const SiteIndex& index, const Block& block, const FiveKeys& keys, const Position& point,
                double farthest) const;
-  void put_in_order(const SiteIndex& index, const Block& block, const Keys& keys, const Point& point,
-                    std::array<double, 4>& D, std::array<double, 4>& z) const;
-  double weigh_first_met(const SiteIndex& index, const Keys& keys, const Point& point, double farthest) const;
-  static double mean_of(const std::array<double, 4>& D, const std::array<double, 4>& z);
+  double weigh_crowd(const SiteIndex& index, const Block& block, float bound, const Position& point,
+                     double farthest) const;
+  double weigh_in_order(const SiteIndex& index, const Block& block, std::span<const float> keys,
+                        const Position& point, double farthest) const;
+  float clear_of(float key) const;
+  static bool ends_behind_one_ring(const SiteIndex& index, const Position& point, double D4);
 
   std::size_t cell(std::int64_t cx, std::int64_t cy) const {
     return static_cast<std::size_t>((cy + 1) * stride_ + cx + 1);
   }
 
-  double coordinate_error_ = 0;
+  float margin_ = 0;
   // Where the sites of each cell begin, row by row; round the cells of the index lies a rim of empty ones.
   std::int64_t stride_ = 0;
   std::vector<std::uint32_t> first_;

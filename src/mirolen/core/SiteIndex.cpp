@@ -1,21 +1,11 @@
 #include "mirolen/core/SiteIndex.h"
 
-#include <algorithm>
 #include <numeric>
 
 #include "mirolen/core/numbers.h"
+#include "mirolen/core/quick_home.h"
 
 namespace mirolen {
-namespace {
-
-/// nearest_whole of a number from -1/2 up.
-std::uint32_t nearest_index(double value) {
-  const auto cut = static_cast<std::int32_t>(value);
-  const double rest = value - cut;
-  return static_cast<std::uint32_t>(cut + ((rest > 0.5) | ((rest == 0.5) & (cut & 1))));
-}
-
-}  // namespace
 
 SiteIndex::SiteIndex(double GridCell, std::int16_t HalfCells, std::span<const Position> sites)
     : GridCell_(GridCell),
@@ -32,37 +22,27 @@ SiteIndex::SiteIndex(double GridCell, std::int16_t HalfCells, std::span<const Po
 }
 
 std::vector<std::uint32_t> SiteIndex::cells_of(std::span<const Position> sites) const {
-  // What rounds half to even lies within these just if its cell does.
-  const double low = -0.5, high = static_cast<double>(side_) - 0.5;
-  const double cell = GridCell_, middle = HalfCells_;
-  const auto side = static_cast<std::uint32_t>(side_);
   std::vector<std::uint32_t> cells(sites.size());
-  bool inside = true;
+  const auto side = static_cast<std::uint32_t>(side_);
+  bool sure = true;
   for (std::size_t i = 0; i < sites.size(); ++i) {
-    const double x = sites[i].x / cell + middle, y = sites[i].y / cell + middle;
-    inside &= (x >= low) & (x <= high) & (y >= low) & (y <= high);
-    const std::uint32_t cx = nearest_index(std::max(low, std::min(high, x))),
-                        cy = nearest_index(std::max(low, std::min(high, y)));
-    cells[i] = cy * side + cx;
+    const QuickHome home = quick_home(*this, sites[i]);
+    sure &= home.sure;
+    cells[i] = static_cast<std::uint32_t>(home.y) * side + static_cast<std::uint32_t>(home.x);
   }
-  if (!inside) refuse_one_outside(sites);
-  return cells;
+  return sure ? cells : cells_with_care(sites);
 }
 
-void SiteIndex::refuse_one_outside(std::span<const Position> sites) const {
+std::vector<std::uint32_t> SiteIndex::cells_with_care(std::span<const Position> sites) const {
+  std::vector<std::uint32_t> cells;
+  cells.reserve(sites.size());
   for (const Position& site : sites) {
     const std::int16_t cx = to_int16(site.x / GridCell_ + HalfCells_);
     const std::int16_t cy = to_int16(site.y / GridCell_ + HalfCells_);
     if (!contains(cx, cy)) throw SubscriptOutOfRange();
+    cells.push_back(static_cast<std::uint32_t>(place(cx, cy)));
   }
-}
-
-SiteIndex::Interior SiteIndex::interior(const Home& home) const {
-  if (!home.countable) return {};
-  constexpr double half = 0.5 - 1e-9;  // of a cell; the rest is left to rounding
-  const double x = static_cast<double>(home.x - HalfCells_), y = static_cast<double>(home.y - HalfCells_);
-  return {home, (x - half) * GridCell_, (x + half) * GridCell_, (y - half) * GridCell_,
-          (y + half) * GridCell_};
+  return cells;
 }
 
 double SiteIndex::to_line(double Xa, double Ya) const {

@@ -23,16 +23,6 @@ class SiteIndex {
     bool countable = false;  ///< Whether its numbers fit 16 bits; they are told only then.
   };
 
-  /// A part of a cell, hardly smaller than it: the points in it have this home without being asked.
-  struct Interior {
-    Home home;
-    double left = 1, right = 0, low = 1, high = 0;  // holds nothing
-
-    bool contains(const Position& point) const {
-      return point.x > left && point.x < right && point.y > low && point.y < high;
-    }
-  };
-
   /// Sorts sites into cells of GridCell millimetres; the sites of a cell keep their order. Cost: two passes
   /// over the sites and one over the cells. @throws SubscriptOutOfRange for a site outside.
   SiteIndex(double GridCell, std::int16_t HalfCells, std::span<const Position> sites);
@@ -46,7 +36,6 @@ class SiteIndex {
   Home home(double Xa, double Ya) const;
   /// From a point in a countable cell to the nearest line between cells, as a part of a cell.
   double to_line(double Xa, double Ya) const;
-  Interior interior(const Home& home) const;
   bool contains(std::int64_t cx, std::int64_t cy) const {
     return cx >= 0 && cx < side_ && cy >= 0 && cy < side_;
   }
@@ -65,7 +54,7 @@ class SiteIndex {
 
  private:
   std::vector<std::uint32_t> cells_of(std::span<const Position> sites) const;
-  void refuse_one_outside(std::span<const Position> sites) const;
+  std::vector<std::uint32_t> cells_with_care(std::span<const Position> sites) const;
   std::size_t place(std::int64_t cx, std::int64_t cy) const {
     return static_cast<std::size_t>(cy * side_ + cx);
   }
