@@ -4,11 +4,12 @@
 #include <array>
 #include <bit>
 #include <cmath>
-#include <limits>
 
+#include "mirolen/core/Block.h"
 #include "mirolen/core/FiveSmallest.h"
 #include "mirolen/core/Lanes.h"
 #include "mirolen/core/Ring.h"
+#include "mirolen/core/Winners.h"
 #include "mirolen/core/quick_home.h"
 
 namespace mirolen {
@@ -18,76 +19,6 @@ constexpr std::int32_t at_once = 4;
 constexpr std::size_t largest_crowd = 16;
 
 }  // namespace
-
-/// The cells round the homes of points that lie near each other, with all their neighbours, and the sites in
-/// them: each row of cells is one run of sites. A candidate's number is made of its row and its place there.
-class QuickSearch::Block {
- public:
-  Block(const QuickSearch& search, const QuickHome& low, const QuickHome& high)
-      : bottom_(low.y - 1), rows_(static_cast<std::size_t>(high.y - low.y + 3)) {
-    fits_ = rows_ <= most_rows;
-    const std::uint32_t* left = &search.first_[search.cell(low.x - 1, bottom_)];
-    const std::int64_t width = high.x - low.x + 3;
-    for (std::size_t row = 0; fits_ && row < rows_; ++row, left += search.stride_) {
-      first_[row] = left[0];
-      last_[row] = left[width];
-      fits_ = left[width] - left[0] <= row_step;
-    }
-  }
-
-  bool fits() const { return fits_; }
-  std::size_t rows() const { return rows_; }
-  SiteIndex::Run run(std::size_t row) const { return {first_[row], last_[row]}; }
-  static std::int32_t first_number(std::size_t row) { return static_cast<std::int32_t>(row * row_step); }
-  std::size_t place(float key) const {
-    const std::uint32_t number = number_of(key);
-    return first_[number / row_step] + number % row_step;
-  }
-  /// The y of the candidate's cell.
-  std::int64_t cell_y(float key) const { return bottom_ + number_of(key) / row_step; }
-
- private:
-  static std::uint32_t number_of(float key) {
-    return std::bit_cast<std::uint32_t>(key) & Lanes::Numbers::most;
-  }
-
-  static constexpr std::uint32_t row_step = 64;
-  static constexpr std::size_t most_rows = (Lanes::Numbers::most + 1) / row_step;
-
-  std::int64_t bottom_;
-  std::size_t rows_;
-  bool fits_;
-  std::array<std::uint32_t, most_rows> first_, last_;
-};
-
-/// The four nearest candidates: their distances and their values.
-struct QuickSearch::Winners {
-  std::array<double, 4> D, z;
-
-  Winners() = default;
-  Winners(const QuickSearch& search, const Block& block, const std::array<float, 4>& keys,
-          const Position& point) {
-    for (std::size_t slot = 0; slot < 4; ++slot) {
-      const Site& site = search.sites_[block.place(keys[slot])];
-      D[slot] = distance(point, site);
-      z[slot] = site.z;
-    }
-  }
-
-  bool ascend() const { return D[0] < D[1] && D[1] < D[2] && D[2] < D[3]; }
-
-  double mean() const {
-    if (D[0] < on_a_site) return z[0];
-    double weighted = 0, weights = 0;
-    for (std::size_t slot = 0; slot < 4; ++slot) {
-      const double square = D[slot] * D[slot];
-      weighted += z[slot] / square;
-      weights += 1 / square;
-    }
-    const double mean = weighted / weights;
-    return std::isfinite(mean) ? mean : unsure;
-  }
-};
 
 QuickSearch::QuickSearch(const SiteIndex& index, std::span<const SiteIndex::Position> positions,
                          std::span<const double> values) {
@@ -215,13 +146,22 @@ void QuickSearch::values(const SiteIndex& index, const FourPoints& points, doubl
     if (std::isnan(results[k])) results[k] = value(index, x[k], y[k], farthest);
 }
 
+/// Whether the search, which holds the farthest distance against the square of its reach, looks at the ring
+/// round the home cell and at no other, wherever in its cell the point lies: the reach starts between 0 and
+/// 1/2 and then grows by a cell.
+inline bool QuickSearch::surely_ends_behind_one_ring(const SiteIndex& index, double D4) {
+  return D4 > 0.25 && D4 <= index.GridCell() * index.GridCell();
+}
+
+/// The value at a point from the candidates with the smallest keys, of which the last is the first that may
+/// be left out.
 double QuickSearch::weigh(const SiteIndex& index, const Block& block, const FiveKeys& keys,
                           const Position& point, double farthest) const {
   if (!(keys.fifth > clear_of(keys.nearest[3])))
     return weigh_crowd(index, block, clear_of(keys.nearest[3]), point, farthest);
-  const Winners winners(*this, block, keys.nearest, point);
-  const double D4 = winners.D[3], reach = index.GridCell();
-  if (winners.ascend() && D4 < farthest && D4 > 0.25 && D4 <= reach * reach) return winners.mean();
+  const Winners winners(block, keys.nearest, point);
+  const double D4 = winners.D[3];
+  if (winners.ascend() && D4 < farthest && surely_ends_behind_one_ring(index, D4)) return winners.mean();
   return weigh_in_order(index, block, keys.nearest, point, farthest);
 }
 
@@ -250,12 +190,12 @@ double QuickSearch::weigh_in_order(const SiteIndex& index, const Block& block, s
   };
   std::array<Candidate, largest_crowd> candidates;
   for (std::size_t i = 0; i < keys.size(); ++i) {
-    const std::size_t place = block.place(keys[i]);
+    const Site& site = block.site(keys[i]);
+    const auto place = static_cast<std::size_t>(&site - sites_.data());
     const std::int64_t dy = block.cell_y(keys[i]) - home.y;
     if (dy < -1 || dy > 1) return unsure;
     const std::uint32_t* middle = &first_[cell(home.x, home.y + dy)];
     const std::int64_t dx = (place >= middle[1]) - (place < middle[0]);
-    const Site& site = sites_[place];
     candidates[i] = {distance(point, site), site.z, Ring::turn(dx, dy) * sites_.size() + place, 0};
   }
   for (std::size_t a = 0; a < keys.size(); ++a)
@@ -275,12 +215,9 @@ double QuickSearch::weigh_in_order(const SiteIndex& index, const Block& block, s
   return D4 < farthest && ends_behind_one_ring(index, point, D4) ? winners.mean() : unsure;
 }
 
-/// Whether the search, which holds the farthest distance against the square of its reach, looks at the ring
-/// round the home cell and at no other. The reach starts between 0 and 1/2 and then grows by a cell.
 bool QuickSearch::ends_behind_one_ring(const SiteIndex& index, const Position& point, double D4) {
-  const double cell = index.GridCell();
-  if (D4 > 0.25 && D4 <= cell * cell) return true;
-  const double reach = index.to_line(point.x, point.y), next = reach + cell;
+  if (surely_ends_behind_one_ring(index, D4)) return true;
+  const double reach = index.to_line(point.x, point.y), next = reach + index.GridCell();
   return D4 > reach * reach && D4 <= next * next;
 }
 

@@ -60,6 +60,7 @@ class QuickSearch {
   double weigh_in_order(const SiteIndex& index, const Block& block, std::span<const float> keys,
                         const Position& point, double farthest) const;
   float clear_of(float key) const;
+  static bool surely_ends_behind_one_ring(const SiteIndex& index, double D4);
   static bool ends_behind_one_ring(const SiteIndex& index, const Position& point, double D4);
 
   std::size_t cell(std::int64_t cx, std::int64_t cy) const {
