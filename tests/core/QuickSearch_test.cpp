@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <utility>
 #include <vector>
 
+#include "mirolen/core/Lanes.h"
 #include "support/site_support.h"
 
 namespace mirolen {
@@ -137,6 +139,76 @@ TEST(QuickSearch, TakesTheFourNearestThoughSinglePrecisionRanksThemOtherwise) {
   const double value = close.quick.value(close.index, x, y, far_enough);
   EXPECT_DOUBLE_EQ(value, mean_of_the_four_nearest(close, x, y));
 }
+
+TEST(QuickSearch, TakesTheFourNearestThoughSinglePrecisionSpeaksForTheFifth) {
+  // Far from the centre the point rounds towards one site, which rounds towards it, too; the other rounds
+  // away.
+  const double step = 0x1p-16, point = 129 + 0.49 * step, aside = 6553 * step;
+  const double fifth = 129 - aside - 0.49 * step, fourth = 129 + aside + 0.51 * step;
+  Searched close;
+  close.positions = {
+      {point, point + 0.01}, {point + 0.02, point}, {point, point - 0.03}, {fifth, fifth}, {fourth, fourth}};
+  close.values = {1, 2, 4, 8, 16};
+  close.index = SiteIndex(2.5262, 51, close.positions);
+  close.quick = QuickSearch(close.index, close.positions, close.values);
+  ASSERT_LT(fourth - point, point - fifth);
+  ASSERT_GT(static_cast<float>(fourth) - static_cast<float>(point),
+            static_cast<float>(point) - static_cast<float>(fifth));
+  EXPECT_DOUBLE_EQ(close.quick.value(close.index, point, point, far_enough),
+                   mean_of_the_four_nearest(close, point, point));
+}
+
+TEST(QuickSearch, OfPointsWithDifferentHomesKeepsToTheRingOfEach) {
+  Searched searched;
+  searched.positions = {{0.5, 0.5}, {0.5, -0.5}, {0.2, 0}, {3.001, 0}, {-2.9, 0}};
+  searched.values = {1, 2, 4, 1000, 8};
+  searched.index = SiteIndex(2, 7, searched.positions);
+  searched.quick = QuickSearch(searched.index, searched.positions, searched.values);
+  // The fourth site is nearer to the first three points than the fifth, but lies outside of their rings.
+  const std::vector<double> x{0.99, 0.99, 0.99, 1.5}, y(4, 0.1);
+  std::vector<double> values(4);
+  searched.quick.values(searched.index, x, y, far_enough, values);
+  const double alone = searched.quick.value(searched.index, x[0], y[0], far_enough);
+  EXPECT_TRUE(std::isnan(values[0]) || values[0] == alone) << values[0] << " and " << alone;
+}
+
+TEST(QuickSearch, IsSureOnlyOfSitesNearerThanTheFarthestDistance) {
+  const Searched grid = grid_of_sites();
+  // Four sites are the fourth nearest of the first point, one that of the second.
+  for (const auto& [x, y, fourth] :
+       {std::tuple{0.0, 4.0, std::sqrt(80)}, {1.0, 2.5, std::sqrt(7 * 7 + 5.5 * 5.5)}}) {
+    EXPECT_TRUE(std::isnan(grid.quick.value(grid.index, x, y, fourth))) << x << ' ' << y;
+    EXPECT_FALSE(std::isnan(grid.quick.value(grid.index, x, y, std::nextafter(fourth, 99)))) << x << ' ' << y;
+  }
+}
+
+TEST(QuickSearch, OfPointsOfWhichOneIsNotANumberIsSureOfTheOthers) {
+  const Searched grid = grid_of_sites();
+  for (std::size_t odd = 0; odd < 4; ++odd) {
+    std::vector<double> x{1, 1.5, 2, 2.5}, y(4, 1), values(4);
+    x[odd] = kNaN;
+    grid.quick.values(grid.index, x, y, far_enough, values);
+    for (std::size_t k = 0; k < 4; ++k) {
+      const double alone = grid.quick.value(grid.index, x[k], y[k], far_enough);
+      EXPECT_TRUE(std::isnan(alone) ? std::isnan(values[k]) : values[k] == alone) << k << " beside " << odd;
+    }
+  }
+}
+
+#ifdef MIROLEN_SSE_LANES
+TEST(QuickSearch, IsNotMisledWhereTheProcessorTakesTheSmallestNumbersForZero) {
+  const Searched grid = grid_of_sites();
+  const unsigned mode = _mm_getcsr();
+  constexpr unsigned denormals_are_zeros = 0x0040;
+  for (std::size_t i = 0; i < grid.positions.size(); ++i) {
+    const auto& [x, y] = grid.positions[i];
+    _mm_setcsr(mode | denormals_are_zeros);
+    const double value = grid.quick.value(grid.index, x, y, far_enough);
+    _mm_setcsr(mode);
+    EXPECT_EQ(value, grid.values[i]) << x << ' ' << y;
+  }
+}
+#endif
 
 TEST(QuickSearch, IsNotSureInACrowd) {
   Searched crowd;

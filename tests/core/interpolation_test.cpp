@@ -221,6 +221,28 @@ TEST(Interpolation, IsZeroWhereTheMeanLeavesTheNumbers) {
   EXPECT_GT(sample.Interpolation(10, 0), 1e304);
 }
 
+TEST(Interpolation, IsZeroWhereTheMeanOfManySitesLeavesTheNumbers) {
+  wafer sample;
+  set_diameters(sample, kDiameter, kDiameter);
+  SiteList sites{{0.001, 0, 1e305}, {0, 0.001, 1e305}, {-0.001, 0, 1e305}, {0, -1, 1e305}};
+  for (int i = 0; i < 8; ++i) sites.push_back({90, 1.0 * i, 1});
+  sample.SetNop(static_cast<double>(sites.size()));
+  for (const Site& site : sites) sample.SetGridValue(site.x, site.y, site.z);
+  EXPECT_THROW(sample.MaxMin(), OverflowError);
+  EXPECT_EQ(sample.Interpolation(0, 0), 0);
+}
+
+TEST(Interpolation, OfAWaferThatWasMovedAwayIsZero) {
+  for (const int count : {5, 12, 100}) {
+    wafer sample;
+    set_diameters(sample, kDiameter, kDiameter);
+    load(sample, ring_of_sites(count, 60));
+    const wafer taken = std::move(sample);
+    EXPECT_NE(taken.Interpolation(1, 2), 0);
+    EXPECT_EQ(sample.Interpolation(1, 2), 0) << count;  // NOLINT: that is the question
+  }
+}
+
 TEST(Interpolation, OfManyPointsKeepsToTheRulesOfOne) {
   for (const int count : {0, 3, 5, 12}) {
     wafer sample;
@@ -339,6 +361,8 @@ struct Pair {
     plain.WafDiam = diameter, plain.WaferOrigRad = diameter / 2, plain.test_diam = test_diameter;
   }
 
+  void set_original_radius(double original) { real.WaferOrigRad = plain.WaferOrigRad = original; }
+
   void load_both(const SiteList& sites) {
     load(real, sites);
     plain.reset();
@@ -352,6 +376,8 @@ void fill_with_random_sites(Random& random, Layout layout, int count, Pair& pair
   const double diameter = one_of<double>(random, {0.5, 2, 50, 100, 200, 300, 450});
   const double share = one_of<double>(random, {0, 1e-7, 1e-3, 0.03, 0.3, 0.98, 1, 1, 1, 2});
   pair.set(diameter, diameter * share);
+  if (chance(random, 0.2))
+    pair.set_original_radius(diameter * one_of<double>(random, {0, -0.5, 0.01, 0.03, 0.1, 1e300}));
   SiteList sites = positions(random, layout, count, pair.radius);
   const bool all_equal = chance(random, 0.15);
   const double low = between(random, -1000.0, 1000.0);

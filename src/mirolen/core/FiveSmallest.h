@@ -15,7 +15,7 @@ struct FiveKeys {
 };
 
 /// The five smallest keys that each lane has met, smallest first. A key is a squared distance whose lowest
-/// bits carry the candidate's number. One that is not a number is passed over.
+/// bits carry the candidate's number. A lane is filled with keys that are not numbers if all of its keys are.
 class FiveSmallest {
  public:
   /// The key of a place that no candidate has taken.

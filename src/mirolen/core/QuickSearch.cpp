@@ -4,6 +4,7 @@
 #include <array>
 #include <bit>
 #include <cmath>
+#include <limits>
 
 #include "mirolen/core/Block.h"
 #include "mirolen/core/FiveSmallest.h"
@@ -157,8 +158,11 @@ inline bool QuickSearch::surely_ends_behind_one_ring(const SiteIndex& index, dou
 /// be left out.
 double QuickSearch::weigh(const SiteIndex& index, const Block& block, const FiveKeys& keys,
                           const Position& point, double farthest) const {
-  if (!(keys.fifth > clear_of(keys.nearest[3])))
-    return weigh_crowd(index, block, clear_of(keys.nearest[3]), point, farthest);
+  // A host may have the processor take the smallest keys, of sites at the point, for 0: without their
+  // numbers.
+  const bool numbered = keys.nearest[0] >= std::numeric_limits<float>::min();
+  const float bound = clear_of(keys.nearest[3]);
+  if (!(numbered && keys.fifth > bound)) return weigh_crowd(index, block, bound, point, farthest);
   const Winners winners(block, keys.nearest, point);
   const double D4 = winners.D[3];
   if (winners.ascend() && D4 < farthest && surely_ends_behind_one_ring(index, D4)) return winners.mean();

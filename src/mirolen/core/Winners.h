@@ -13,7 +13,7 @@ namespace mirolen {
 struct QuickSearch::Winners {
   std::array<double, 4> D, z;
 
-  Winners() = default;
+  Winners() { D.fill(unsure); }
   Winners(const Block& block, const std::array<float, 4>& keys, const Position& point) {
     for (std::size_t slot = 0; slot < 4; ++slot) {
       const Site& site = block.site(keys[slot]);

@@ -73,7 +73,8 @@ double wafer::mean_of_near_sites(double Xa, double Ya) const {
   };
 
   const SiteIndex::Home home = SiteCells.home(Xa, Ya);
-  if (home.countable && SiteCells.sites().size() <= GridVal.size()) {
+  const std::size_t indexed = SiteCells.sites().size();  // 0 in a wafer that was moved away
+  if (home.countable && indexed > 0 && indexed <= GridVal.size()) {
     const Ring::Bounds bounds(home.x, home.y, SiteCells.side());
     if (SiteCells.contains(home)) insert_cell(home.x, home.y);
 
