@@ -26,8 +26,8 @@ struct Searched {
   void build() {
     const double cell =
         std::sqrt(100.0 * 100.0 * 4 * std::atan(1.0) * 4 / static_cast<double>(positions.size()));
-    index = SiteIndex(cell, static_cast<std::int16_t>(std::lround(100 / cell)), positions);
-    quick = QuickSearch(index, positions, values);
+    index.build(cell, static_cast<std::int16_t>(std::lround(100 / cell)), positions);
+    quick.build(index, positions, values);
   }
   bool sure_at(double x, double y) const { return !std::isnan(quick.value(index, x, y, far_enough)); }
 };
@@ -132,8 +132,8 @@ TEST(QuickSearch, TakesTheFourNearestThoughSinglePrecisionRanksThemOtherwise) {
       {0x1.002bb311ee2f1p+7, 0x1.004d3e3508d19p+7}, {0x1.0065c74833633p+7, 0x1.00822f09f3e53p+7},
       {0x1.006a99385965bp+7, 0x1.007cf51fe91c9p+7}};
   close.values = {1, 2, 4, 8, 16, 32, 64};
-  close.index = SiteIndex(2.5262, 51, close.positions);
-  close.quick = QuickSearch(close.index, close.positions, close.values);
+  close.index.build(2.5262, 51, close.positions);
+  close.quick.build(close.index, close.positions, close.values);
 
   const double x = 0x1.004b42fb348ebp+7, y = 0x1.0064f4ff78309p+7;
   const double value = close.quick.value(close.index, x, y, far_enough);
@@ -149,8 +149,8 @@ TEST(QuickSearch, TakesTheFourNearestThoughSinglePrecisionSpeaksForTheFifth) {
   close.positions = {
       {point, point + 0.01}, {point + 0.02, point}, {point, point - 0.03}, {fifth, fifth}, {fourth, fourth}};
   close.values = {1, 2, 4, 8, 16};
-  close.index = SiteIndex(2.5262, 51, close.positions);
-  close.quick = QuickSearch(close.index, close.positions, close.values);
+  close.index.build(2.5262, 51, close.positions);
+  close.quick.build(close.index, close.positions, close.values);
   ASSERT_LT(fourth - point, point - fifth);
   ASSERT_GT(static_cast<float>(fourth) - static_cast<float>(point),
             static_cast<float>(point) - static_cast<float>(fifth));
@@ -162,8 +162,8 @@ TEST(QuickSearch, OfPointsWithDifferentHomesKeepsToTheRingOfEach) {
   Searched searched;
   searched.positions = {{0.5, 0.5}, {0.5, -0.5}, {0.2, 0}, {3.001, 0}, {-2.9, 0}};
   searched.values = {1, 2, 4, 1000, 8};
-  searched.index = SiteIndex(2, 7, searched.positions);
-  searched.quick = QuickSearch(searched.index, searched.positions, searched.values);
+  searched.index.build(2, 7, searched.positions);
+  searched.quick.build(searched.index, searched.positions, searched.values);
   // The fourth site is nearer to the first three points than the fifth, but lies outside of their rings.
   const std::vector<double> x{0.99, 0.99, 0.99, 1.5}, y(4, 0.1);
   std::vector<double> values(4);

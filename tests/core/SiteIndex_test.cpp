@@ -15,7 +15,9 @@ constexpr std::int16_t half_cells = 3;
 
 SiteIndex index_of(double x, double y) {
   const std::vector<SiteIndex::Position> sites{{0, 0}, {x, y}};
-  return SiteIndex(cell, half_cells, sites);
+  SiteIndex index;
+  index.build(cell, half_cells, sites);
+  return index;
 }
 
 TEST(SiteIndex, PutsSitesBetweenTwoCellsIntoTheEvenOne) {
@@ -39,9 +41,30 @@ TEST(SiteIndex, RefusesCellsWhoseNumberDoesNotFitSixteenBits) {
     EXPECT_THROW(index_of(place, 0), OverflowError) << place;
 }
 
+TEST(SiteIndex, HasNoCellAfterASiteThatItRefused) {
+  SiteIndex index = index_of(1, 1);
+  EXPECT_THROW(index.build(cell, half_cells, std::vector<SiteIndex::Position>{{0, 0}, {8, 0}}),
+               SubscriptOutOfRange);
+  EXPECT_EQ(index.side(), 0);
+  EXPECT_EQ(index.GridCell(), 0);
+  EXPECT_TRUE(index.sites().empty());
+  EXPECT_FALSE(index.contains(index.home(0, 0)));
+}
+
+TEST(SiteIndex, TakesFewerSitesAndFewerCellsInTheSameRoom) {
+  SiteIndex index;
+  index.build(cell, half_cells, std::vector<SiteIndex::Position>{{4, 4}, {0, 0}, {-6, -6}});
+  index.build(2 * cell, 1, std::vector<SiteIndex::Position>{{4, -4}});
+  EXPECT_EQ(index.side(), 3);
+  EXPECT_EQ(index.sites().size(), 1U);
+  EXPECT_EQ(index.cell(2, 0).front(), 0);
+  EXPECT_TRUE(index.cell(1, 1).empty());
+}
+
 TEST(SiteIndex, KeepsTheOrderOfTheSitesOfACell) {
   const std::vector<SiteIndex::Position> sites{{4, 4}, {0, 0}, {4, 4}, {-6, -6}, {0.5, 0}, {4, 4}};
-  const SiteIndex index(cell, half_cells, sites);
+  SiteIndex index;
+  index.build(cell, half_cells, sites);
   const std::vector<std::int16_t> expected{3, 1, 4, 0, 2, 5};
   EXPECT_EQ(std::vector(index.sites().begin(), index.sites().end()), expected);
   const auto crowd = index.cell(5, 5);

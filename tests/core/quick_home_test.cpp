@@ -11,7 +11,9 @@ namespace mirolen {
 namespace {
 
 SiteIndex index_of(double GridCell, std::int16_t HalfCells) {
-  return SiteIndex(GridCell, HalfCells, std::vector<SiteIndex::Position>{{0, 0}});
+  SiteIndex index;
+  index.build(GridCell, HalfCells, std::vector<SiteIndex::Position>{{0, 0}});
+  return index;
 }
 
 /// The cells of an index in their order along one axis, with all that lies about the lines between them.

@@ -21,10 +21,12 @@ constexpr std::size_t largest_crowd = 16;
 
 }  // namespace
 
-QuickSearch::QuickSearch(const SiteIndex& index, std::span<const SiteIndex::Position> positions,
-                         std::span<const double> values) {
+void QuickSearch::build(const SiteIndex& index, std::span<const SiteIndex::Position> positions,
+                        std::span<const double> values) {
   // Beyond these sizes single precision would not hold the squares.
-  if (!(index.GridCell() > 1e-9 && index.GridCell() < 1e9)) return;
+  const bool holds = index.GridCell() > 1e-9 && index.GridCell() < 1e9;
+  sites_.resize(holds ? index.sites().size() : 0);
+  if (!holds) return;
   const double coordinate_error = (index.HalfCells() + 1) * index.GridCell() * 0x1p-24;
   margin_ = static_cast<float>(3 * 9 * coordinate_error * coordinate_error * (0x1p17 + 1));
   stride_ = index.side() + 2;
@@ -37,7 +39,6 @@ QuickSearch::QuickSearch(const SiteIndex& index, std::span<const SiteIndex::Posi
       if (index.contains(cx, cy)) end = index.run(cx, cx, cy).last;
     }
   first_[cell] = end;
-  sites_.resize(index.sites().size());
   // The last ones are read by fours, too.
   x_.resize(sites_.size() + at_once);
   y_.resize(sites_.size() + at_once);

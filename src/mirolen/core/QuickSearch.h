@@ -26,11 +26,11 @@ class QuickSearch {
 
   /// Has no sites and is never sure.
   QuickSearch() = default;
-  /// Of the sites of an index. Cost: one pass over them.
-  QuickSearch(const SiteIndex& index, std::span<const SiteIndex::Position> positions,
-              std::span<const double> values);
+  /// Takes the sites of an index, in the room of those before. Cost: one pass over them.
+  void build(const SiteIndex& index, std::span<const SiteIndex::Position> positions,
+             std::span<const double> values);
 
-  /// The value at a point, from sites that are all nearer than farthest. index: the one it was built of.
+  /// The value at a point, from sites that are all nearer than farthest. index: the one it took them from.
   double value(const SiteIndex& index, double Xa, double Ya, double farthest) const;
   /// The same for as many points as there are results; points that follow each other closely cost least.
   void values(const SiteIndex& index, std::span<const double> Xa, std::span<const double> Ya, double farthest,

@@ -7,16 +7,33 @@
 
 namespace mirolen {
 
-SiteIndex::SiteIndex(double GridCell, std::int16_t HalfCells, std::span<const Position> sites)
-    : GridCell_(GridCell),
-      HalfCells_(HalfCells),
-      side_(2 * HalfCells + 1),
-      first_(static_cast<std::size_t>(side_ * side_) + 2),
-      sites_(sites.size()) {
+void SiteIndex::clear() {
+  GridCell_ = 0;
+  HalfCells_ = 0;
+  side_ = 0;
+  first_.clear();
+  sites_.clear();
+}
+
+void SiteIndex::build(double GridCell, std::int16_t HalfCells, std::span<const Position> sites) {
+  GridCell_ = GridCell;
+  HalfCells_ = HalfCells;
+  side_ = 2 * HalfCells + 1;
+  try {
+    sort(sites);
+  } catch (...) {
+    clear();
+    throw;
+  }
+}
+
+void SiteIndex::sort(std::span<const Position> sites) {
   const std::vector<std::uint32_t> cells = cells_of(sites);
   // While the sites go to their places, first_ tells one cell later where the next one goes.
+  first_.assign(static_cast<std::size_t>(side_ * side_) + 2, 0);
   for (const std::uint32_t cell : cells) ++first_[cell + 2];
   std::partial_sum(first_.begin(), first_.end(), first_.begin());
+  sites_.resize(sites.size());
   for (std::size_t site = 0; site < cells.size(); ++site)
     sites_[first_[cells[site] + 1]++] = static_cast<std::int16_t>(site);
 }

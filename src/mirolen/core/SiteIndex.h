@@ -23,11 +23,14 @@ class SiteIndex {
     bool countable = false;  ///< Whether its numbers fit 16 bits; they are told only then.
   };
 
-  /// Sorts sites into cells of GridCell millimetres; the sites of a cell keep their order. Cost: two passes
-  /// over the sites and one over the cells. @throws SubscriptOutOfRange for a site outside.
-  SiteIndex(double GridCell, std::int16_t HalfCells, std::span<const Position> sites);
   /// The index that has no cell at all.
   SiteIndex() = default;
+  /// Has no cell any more, but keeps its room.
+  void clear();
+  /// Sorts sites into cells of GridCell millimetres; the sites of a cell keep their order. Cost: two passes
+  /// over the sites and one over the cells. @throws SubscriptOutOfRange for a site outside, OverflowError for
+  /// one farther than cells can be counted; then it is clear.
+  void build(double GridCell, std::int16_t HalfCells, std::span<const Position> sites);
 
   double GridCell() const { return GridCell_; }
   std::int16_t HalfCells() const { return HalfCells_; }
@@ -53,6 +56,7 @@ class SiteIndex {
   std::span<const std::int16_t> sites() const { return sites_; }
 
  private:
+  void sort(std::span<const Position> sites);
   std::vector<std::uint32_t> cells_of(std::span<const Position> sites) const;
   std::vector<std::uint32_t> cells_with_care(std::span<const Position> sites) const;
   std::size_t place(std::int64_t cx, std::int64_t cy) const {

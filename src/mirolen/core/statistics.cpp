@@ -68,10 +68,10 @@ void wafer::BuildSiteCells() {
   const double R = WafDiam / 2;
   const std::int16_t n = to_int16(Nop);
   quick_ = false;
-  SiteCells = {};
+  SiteCells.clear();
   const double GridCell = n >= 4 ? square_root(checked(R * R * Pi * 4) / n) : 2 * R;
-  SiteCells = SiteIndex(GridCell, to_int16(divide(R, GridCell)), GridPos);
-  Quick = QuickSearch(SiteCells, GridPos, GridVal);
+  SiteCells.build(GridCell, to_int16(divide(R, GridCell)), GridPos);
+  Quick.build(SiteCells, GridPos, GridVal);
   quick_ = true;
 }
 
