@@ -3,7 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cmath>
 #include <cstdint>
+#include <string>
+#include <type_traits>
+#include <vector>
 
 #include "mirolen/core/Lanes.h"
 #include "support/site_support.h"
@@ -47,69 +51,90 @@ std::vector<Bits> results(const Four& left, const Four& right, std::int32_t numb
           stored};
 }
 
+/// Ordinary numbers, and those at the ends of what there is.
 Four four_of(Random& random) {
   Four four;
-  for (float& lane : four) lane = static_cast<float>(between(random, -100.0, 100.0));
+  for (float& lane : four) {
+    const auto any = static_cast<float>(between(random, -100.0, 100.0));
+    lane = one_of<float>(random,
+                         {any, any, any, any, 0.0F, -0.0F, 1e-42F, 3e38F, static_cast<float>(kInfinity)});
+  }
   return four;
 }
 
-class LanesOfRandomNumbers : public RandomInput {};
+template <class Lanes>
+class LanesOfAnyKind : public RandomInput {};
 
-TEST_F(LanesOfRandomNumbers, AreThePlainOnes) {
+struct KindOfLanes {
+  template <class Lanes>
+  static std::string GetName(int) {
+    if (std::is_same_v<Lanes, PlainLanes>) return "Plain";
+#ifdef MIROLEN_SSE_LANES
+    if (std::is_same_v<Lanes, SseLanes>) return "Sse";
+#endif
+    return "Vector";
+  }
+};
+
+using KindsOfLanes = testing::Types<PlainLanes
+#ifdef MIROLEN_SSE_LANES
+                                    ,
+                                    SseLanes
+#endif
+#ifdef MIROLEN_VECTOR_LANES
+                                    ,
+                                    VectorLanes
+#endif
+                                    >;
+TYPED_TEST_SUITE(LanesOfAnyKind, KindsOfLanes, KindOfLanes);
+
+TYPED_TEST(LanesOfAnyKind, OfRandomNumbersAreThePlainOnes) {
   for (int round = 0; round < 1000; ++round) {
-    const Four a = four_of(random), b = four_of(random);
-    const std::int32_t number = between(random, 0, 500);
-    const auto few = static_cast<std::uint32_t>(between(random, 0, 4));
-    ASSERT_EQ(results<Lanes>(a, b, number, few), results<PlainLanes>(a, b, number, few));
-    const float bound = a[static_cast<std::size_t>(between(random, 0, 3))];
-    ASSERT_EQ(Lanes::load(a.data()).at_most(bound), PlainLanes::load(a.data()).at_most(bound));
+    const Four a = four_of(this->random), b = four_of(this->random);
+    const std::int32_t number = between(this->random, 0, 500);
+    const auto few = static_cast<std::uint32_t>(between(this->random, 0, 4));
+    ASSERT_EQ(results<TypeParam>(a, b, number, few), results<PlainLanes>(a, b, number, few));
+    const float bound = one_of<float>(this->random, {a[0], a[3], b[1]});
+    ASSERT_EQ(TypeParam::load(a.data()).at_most(bound), PlainLanes::load(a.data()).at_most(bound));
   }
 }
 
-TEST(Lanes, GiveTheSecondOfTwoWhereOneIsNotANumber) {
-  const auto check = []<class Lanes>(Lanes) {
-    const float nan = static_cast<float>(kNaN);
-    EXPECT_EQ(lesser(Lanes::all(nan), Lanes::all(3))[1], 3);
-    EXPECT_EQ(greater(Lanes::all(nan), Lanes::all(3))[1], 3);
-    EXPECT_TRUE(std::isnan(lesser(Lanes::all(3), Lanes::all(nan))[2]));
-    EXPECT_TRUE(std::isnan(greater(Lanes::all(3), Lanes::all(nan))[2]));
-  };
-  check(PlainLanes::all(0));
-  check(Lanes::all(0));
+TYPED_TEST(LanesOfAnyKind, GiveTheSecondOfTwoWhereOneIsNotANumber) {
+  const TypeParam nan = TypeParam::all(static_cast<float>(kNaN)), three = TypeParam::all(3);
+  EXPECT_EQ(lesser(nan, three)[1], 3);
+  EXPECT_EQ(greater(nan, three)[1], 3);
+  EXPECT_TRUE(std::isnan(lesser(three, nan)[2]));
+  EXPECT_TRUE(std::isnan(greater(three, nan)[2]));
 }
 
-TEST(Lanes, KeepTheirFirstFew) {
-  const Lanes three = Lanes::all(7).first(3, 1e38F);
+TYPED_TEST(LanesOfAnyKind, KeepTheirFirstFew) {
+  const TypeParam three = TypeParam::all(7).first(3, 1e38F);
   EXPECT_EQ(three[2], 7);
   EXPECT_EQ(three[3], 1e38F);
 }
 
-TEST(Lanes, TellWhichOfThemAreNotAboveABound) {
-  const Four four{5, -1, 7, 5.5F};
-  EXPECT_EQ(Lanes::load(four.data()).at_most(5), 0b0011U);
-  EXPECT_EQ(PlainLanes::load(four.data()).at_most(5), 0b0011U);
+TYPED_TEST(LanesOfAnyKind, TellWhichOfThemAreNotAboveABound) {
+  const Four four{5, -1, 7, static_cast<float>(kNaN)};
+  EXPECT_EQ(TypeParam::load(four.data()).at_most(5), 0b0011U);
 }
 
-TEST(Lanes, ChangePlacesWithTheirFours) {
-  const auto check = []<class Lanes>(Lanes) {
-    std::array<Lanes, 4> rows;
-    for (std::size_t row = 0; row < 4; ++row) {
-      const auto ten = static_cast<float>(10 * row);
-      const Four four{ten, ten + 1, ten + 2, ten + 3};
-      rows[row] = Lanes::load(four.data());
-    }
-    const std::array<Lanes, 4> columns = Lanes::transposed(rows);
-    for (std::size_t row = 0; row < 4; ++row)
-      for (std::size_t lane = 0; lane < 4; ++lane) EXPECT_EQ(columns[lane][row], rows[row][lane]);
-  };
-  check(PlainLanes::all(0));
-  check(Lanes::all(0));
+TYPED_TEST(LanesOfAnyKind, ChangePlacesWithTheirFours) {
+  std::array<TypeParam, 4> rows;
+  for (std::size_t row = 0; row < 4; ++row) {
+    const auto ten = static_cast<float>(10 * row);
+    const Four four{ten, ten + 1, ten + 2, ten + 3};
+    rows[row] = TypeParam::load(four.data());
+  }
+  const std::array<TypeParam, 4> columns = TypeParam::transposed(rows);
+  for (std::size_t row = 0; row < 4; ++row)
+    for (std::size_t lane = 0; lane < 4; ++lane) EXPECT_EQ(columns[lane][row], rows[row][lane]);
 }
 
-TEST(Lanes, CarryNumbersInTheirLowestBits) {
-  const Lanes lanes = Lanes::all(1).numbered(Lanes::Numbers::from(Lanes::Numbers::most - 3));
-  EXPECT_EQ(std::bit_cast<std::int32_t>(lanes[3]) & Lanes::Numbers::most, Lanes::Numbers::most);
-  EXPECT_EQ(std::bit_cast<std::int32_t>(lanes[0]) & Lanes::Numbers::most, Lanes::Numbers::most - 3);
+TYPED_TEST(LanesOfAnyKind, CarryNumbersInTheirLowestBits) {
+  using Numbers = typename TypeParam::Numbers;
+  const TypeParam lanes = TypeParam::all(1).numbered(Numbers::from(Numbers::most - 3));
+  EXPECT_EQ(std::bit_cast<std::int32_t>(lanes[3]) & Numbers::most, Numbers::most);
+  EXPECT_EQ(std::bit_cast<std::int32_t>(lanes[0]) & Numbers::most, Numbers::most - 3);
   EXPECT_NEAR(lanes[3], 1, 0x1p-14);
 }
 

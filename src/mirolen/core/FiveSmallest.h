@@ -15,7 +15,7 @@ struct FiveKeys {
 };
 
 /// The five smallest keys that each lane has met, smallest first. A key is a squared distance whose lowest
-/// bits carry the candidate's number. A lane is filled with keys that are not numbers if all of its keys are.
+/// bits carry the candidate's number. Of a lane that met NaN alone they are NaN.
 class FiveSmallest {
  public:
   /// The key of a place that no candidate has taken.
