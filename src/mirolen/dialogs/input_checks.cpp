@@ -52,7 +52,7 @@ std::optional<double> numeric(std::string_view text) {
     const std::string_view sign = take_sign(text);
     const std::string_view exponent = take(text, digits);
     if (exponent.empty()) return std::nullopt;
-    plain += "e" + std::string(sign == "-" ? sign : "") + std::string(exponent);
+    plain.append("e").append(sign == "-" ? sign : "").append(exponent);
   }
   if (!text.empty()) return std::nullopt;
 
