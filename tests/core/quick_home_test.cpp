@@ -88,9 +88,12 @@ std::vector<double> results(const Site& left, const Site& right) {
   const auto a = Numbers::of(left.x, left.y), b = Numbers::of(right.x, right.y);
   const auto whole = greater(lesser(a, Numbers::all(1e6)), Numbers::all(-1e6));
   std::vector<double> all;
-  for (const auto& numbers : {whole, whole + b, whole / Numbers::all(7), lesser(a, b), greater(a, b)}) {
+  for (const auto& numbers : {whole, whole + b, whole - b, whole * b, whole / Numbers::all(7),
+                              sqrt(whole * whole), lesser(a, b), greater(a, b)}) {
+    for (const double number : {numbers.first(), numbers.second()})
+      all.push_back(std::isnan(number) ? 0.5 : number);
     const auto cut = lesser(greater(numbers, Numbers::all(-2e9)), Numbers::all(2e9)).cut();
-    all.insert(all.end(), {double(cut.x), double(cut.y), double(cut.fractions)});
+    all.insert(all.end(), {double(cut.first), double(cut.second), double(cut.fractions)});
   }
   return all;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 
@@ -11,14 +12,16 @@
 
 namespace mirolen {
 
-/// The x and the y of something, worked on side by side. `lesser` and `greater` give their second argument
-/// where either is NaN.
+/// Two double-precision numbers worked on side by side, such as x and y. `lesser` and `greater` give their
+/// second argument where either is NaN.
 class PlainPair {
  public:
   static PlainPair all(double value) { return {{value, value}}; }
-  static PlainPair of(double x, double y) { return {{x, y}}; }
+  static PlainPair of(double first, double second) { return {{first, second}}; }
 
   friend PlainPair operator+(PlainPair a, PlainPair b) { return {{a.v[0] + b.v[0], a.v[1] + b.v[1]}}; }
+  friend PlainPair operator-(PlainPair a, PlainPair b) { return {{a.v[0] - b.v[0], a.v[1] - b.v[1]}}; }
+  friend PlainPair operator*(PlainPair a, PlainPair b) { return {{a.v[0] * b.v[0], a.v[1] * b.v[1]}}; }
   friend PlainPair operator/(PlainPair a, PlainPair b) { return {{a.v[0] / b.v[0], a.v[1] / b.v[1]}}; }
   friend PlainPair lesser(PlainPair a, PlainPair b) {
     return {{a.v[0] < b.v[0] ? a.v[0] : b.v[0], a.v[1] < b.v[1] ? a.v[1] : b.v[1]}};
@@ -27,14 +30,18 @@ class PlainPair {
     return {{a.v[0] > b.v[0] ? a.v[0] : b.v[0], a.v[1] > b.v[1] ? a.v[1] : b.v[1]}};
   }
 
+  friend PlainPair sqrt(PlainPair a) { return {{std::sqrt(a.v[0]), std::sqrt(a.v[1])}}; }
+  double first() const { return v[0]; }
+  double second() const { return v[1]; }
+
   /// Both without their fractions, and whether both had one. They fit 32 bits.
   struct Cut {
-    std::int32_t x, y;
+    std::int32_t first, second;
     bool fractions;
   };
   Cut cut() const {
-    const auto x = static_cast<std::int32_t>(v[0]), y = static_cast<std::int32_t>(v[1]);
-    return {x, y, static_cast<double>(x) != v[0] && static_cast<double>(y) != v[1]};
+    const auto a = static_cast<std::int32_t>(v[0]), b = static_cast<std::int32_t>(v[1]);
+    return {a, b, static_cast<double>(a) != v[0] && static_cast<double>(b) != v[1]};
   }
 
   std::array<double, 2> v;
@@ -45,12 +52,18 @@ class PlainPair {
 class SsePair {
  public:
   static SsePair all(double value) { return {_mm_set1_pd(value)}; }
-  static SsePair of(double x, double y) { return {_mm_set_pd(y, x)}; }
+  static SsePair of(double first, double second) { return {_mm_set_pd(second, first)}; }
 
   friend SsePair operator+(SsePair a, SsePair b) { return {_mm_add_pd(a.v, b.v)}; }
+  friend SsePair operator-(SsePair a, SsePair b) { return {_mm_sub_pd(a.v, b.v)}; }
+  friend SsePair operator*(SsePair a, SsePair b) { return {_mm_mul_pd(a.v, b.v)}; }
   friend SsePair operator/(SsePair a, SsePair b) { return {_mm_div_pd(a.v, b.v)}; }
   friend SsePair lesser(SsePair a, SsePair b) { return {_mm_min_pd(a.v, b.v)}; }
   friend SsePair greater(SsePair a, SsePair b) { return {_mm_max_pd(a.v, b.v)}; }
+
+  friend SsePair sqrt(SsePair a) { return {_mm_sqrt_pd(a.v)}; }
+  double first() const { return _mm_cvtsd_f64(v); }
+  double second() const { return _mm_cvtsd_f64(_mm_unpackhi_pd(v, v)); }
 
   using Cut = PlainPair::Cut;
   Cut cut() const {

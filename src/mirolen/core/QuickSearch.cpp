@@ -159,14 +159,14 @@ inline bool QuickSearch::surely_ends_behind_one_ring(const SiteIndex& index, dou
 /// be left out.
 double QuickSearch::weigh(const SiteIndex& index, const Block& block, const FiveKeys& keys,
                           const Position& point, double farthest) const {
-  // A host may have the processor take the smallest keys, of sites at the point, for 0: without their
+  // A host may have the processor take the smallest keys, of sites at the point, for 0, without their
   // numbers.
   const bool numbered = keys.nearest[0] >= std::numeric_limits<float>::min();
   const float bound = clear_of(keys.nearest[3]);
   if (!(numbered && keys.fifth > bound)) return weigh_crowd(index, block, bound, point, farthest);
   const Winners winners(block, keys.nearest, point);
-  const double D4 = winners.D[3];
-  if (winners.ascend() && D4 < farthest && surely_ends_behind_one_ring(index, D4)) return winners.mean();
+  if (winners.ascend() && winners.D4() < farthest && surely_ends_behind_one_ring(index, winners.D4()))
+    return winners.mean();
   return weigh_in_order(index, block, keys.nearest, point, farthest);
 }
 
@@ -210,14 +210,14 @@ double QuickSearch::weigh_in_order(const SiteIndex& index, const Block& block, s
       A.rank += b_first;
       B.rank += !b_first;
     }
-  Winners winners;
+  std::array<double, 4> D, z;
+  D.fill(unsure), z.fill(unsure);
   for (std::size_t i = 0; i < keys.size(); ++i)
     if (candidates[i].rank < 4) {
-      winners.D[candidates[i].rank] = candidates[i].D;
-      winners.z[candidates[i].rank] = candidates[i].z;
+      D[candidates[i].rank] = candidates[i].D;
+      z[candidates[i].rank] = candidates[i].z;
     }
-  const double D4 = winners.D[3];
-  return D4 < farthest && ends_behind_one_ring(index, point, D4) ? winners.mean() : unsure;
+  return D[3] < farthest && ends_behind_one_ring(index, point, D[3]) ? Winners(D, z).mean() : unsure;
 }
 
 bool QuickSearch::ends_behind_one_ring(const SiteIndex& index, const Position& point, double D4) {

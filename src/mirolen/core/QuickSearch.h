@@ -45,7 +45,7 @@ class QuickSearch {
     std::span<const double, 4> x, y;
   };
   class Block;
-  struct Winners;
+  class Winners;
 
   void values(const SiteIndex& index, const FourPoints& points, double farthest,
               std::span<double, 4> results) const;
