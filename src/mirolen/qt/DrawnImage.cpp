@@ -50,9 +50,9 @@ QPainter& DrawnImage::painter(const Pen& pen, const Brush& brush, bool smooth) {
   return *painter_;
 }
 
-ShownFont& DrawnImage::font(const FontSpec& spec) {
-  if (!font_ || font_->spec() != spec) {
-    font_.emplace(spec, image_, ratio_);
+ShownFont& DrawnImage::font(const FontSpec& wanted) {
+  if (!font_ || font_->wanted() != wanted) {
+    font_.emplace(wanted, image_, ratio_);
     in_font_ = false;
   }
   return *font_;

@@ -30,7 +30,7 @@ class DrawnImage {
   /// A painter for the next drawing, in device pixels.
   QPainter& painter(const Pen& pen, const Brush& brush, bool smooth);
   /// A font for the next text.
-  ShownFont& font(const FontSpec& spec);
+  ShownFont& font(const FontSpec& wanted);
   /// A painter for the next text, in the font that was asked for last.
   QPainter& text_painter(Color color);
 

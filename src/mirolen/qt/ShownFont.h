@@ -15,9 +15,9 @@ namespace mirolen::qt {
 class ShownFont {
  public:
   /// @param ratio device pixels of a logical one.
-  ShownFont(const FontSpec& spec, const QPaintDevice& device, double ratio);
+  ShownFont(const FontSpec& wanted, const QPaintDevice& device, double ratio);
 
-  const FontSpec& spec() const { return spec_; }
+  const FontSpec& wanted() const { return wanted_; }
   const QFont& font() const { return font_; }
 
   struct Text {
@@ -30,7 +30,7 @@ class ShownFont {
   double height() const { return metrics_.height(); }
 
  private:
-  FontSpec spec_;
+  FontSpec wanted_;
   QFont font_;
   QFontMetricsF metrics_;
   Text last_;
