@@ -195,7 +195,7 @@ TEST(QuickSearch, OfPointsOfWhichOneIsNotANumberIsSureOfTheOthers) {
   }
 }
 
-#ifdef MIROLEN_SSE_LANES
+#ifdef MIROLEN_SSE
 TEST(QuickSearch, IsNotMisledWhereTheProcessorTakesTheSmallestNumbersForZero) {
   const Searched grid = grid_of_sites();
   const unsigned mode = _mm_getcsr();

@@ -69,7 +69,7 @@ struct KindOfLanes {
   template <class Lanes>
   static std::string GetName(int) {
     if (std::is_same_v<Lanes, PlainLanes>) return "Plain";
-#ifdef MIROLEN_SSE_LANES
+#ifdef MIROLEN_SSE
     if (std::is_same_v<Lanes, SseLanes>) return "Sse";
 #endif
     return "Vector";
@@ -77,7 +77,7 @@ struct KindOfLanes {
 };
 
 using KindsOfLanes = testing::Types<PlainLanes
-#ifdef MIROLEN_SSE_LANES
+#ifdef MIROLEN_SSE
                                     ,
                                     SseLanes
 #endif

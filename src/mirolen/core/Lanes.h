@@ -7,7 +7,7 @@
 namespace mirolen {
 
 /// Four single-precision numbers worked on side by side, as fast as the compiler and the processor can.
-#if defined(MIROLEN_SSE_LANES)
+#if defined(MIROLEN_SSE)
 using Lanes = SseLanes;
 #elif defined(MIROLEN_VECTOR_LANES)
 using Lanes = VectorLanes;

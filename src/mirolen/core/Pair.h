@@ -5,10 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#if defined(__SSE2__) || defined(_M_X64)
-#include <emmintrin.h>
-#define MIROLEN_SSE_PAIR
-#endif
+#include "mirolen/core/sse.h"
 
 namespace mirolen {
 
@@ -47,7 +44,7 @@ class PlainPair {
   std::array<double, 2> v;
 };
 
-#ifdef MIROLEN_SSE_PAIR
+#ifdef MIROLEN_SSE
 /// PlainPair in one register.
 class SsePair {
  public:

@@ -36,7 +36,7 @@ void QuickSearch::build(const SiteIndex& index, std::span<const SiteIndex::Posit
   for (std::int64_t cy = -1; cy <= index.side(); ++cy)
     for (std::int64_t cx = -1; cx <= index.side(); ++cx) {
       first_[cell++] = end;
-      if (index.contains(cx, cy)) end = index.run(cx, cx, cy).last;
+      if (index.contains(cx, cy)) end = index.run(cx, cy).last;
     }
   first_[cell] = end;
   // The last ones are read by fours, too.

@@ -73,7 +73,7 @@ double SiteIndex::to_line(double Xa, double Ya) const {
 }
 
 std::span<const std::int16_t> SiteIndex::cell(std::int64_t cx, std::int64_t cy) const {
-  const Run run = this->run(cx, cx, cy);
+  const Run run = this->run(cx, cy);
   return {sites_.data() + run.first, run.last - run.first};
 }
 

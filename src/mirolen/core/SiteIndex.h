@@ -43,14 +43,15 @@ class SiteIndex {
     return cx >= 0 && cx < side_ && cy >= 0 && cy < side_;
   }
   bool contains(const Home& home) const { return home.countable && contains(home.x, home.y); }
-  /// The sites of a cell that the index contains, and those of a row of such cells.
+  /// The sites of a cell that the index contains.
   std::span<const std::int16_t> cell(std::int64_t cx, std::int64_t cy) const;
-  /// Where the sites of a row of cells begin and end among all sites.
+  /// Where they begin and end among all sites.
   struct Run {
     std::uint32_t first, last;
   };
-  Run run(std::int64_t left, std::int64_t right, std::int64_t cy) const {
-    return {first_[place(left, cy)], first_[place(right, cy) + 1]};
+  Run run(std::int64_t cx, std::int64_t cy) const {
+    const std::size_t cell = place(cx, cy);
+    return {first_[cell], first_[cell + 1]};
   }
   /// All sites, cell after cell.
   std::span<const std::int16_t> sites() const { return sites_; }
@@ -70,12 +71,8 @@ class SiteIndex {
   std::vector<std::int16_t> sites_;
 };
 
-inline double square_of_distance(const SiteIndex::Position& a, const SiteIndex::Position& b) {
-  return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y);
-}
-
 inline double distance(const SiteIndex::Position& a, const SiteIndex::Position& b) {
-  return std::sqrt(square_of_distance(a, b));
+  return std::sqrt((a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y));
 }
 
 // In the header, since every interpolation begins with it.

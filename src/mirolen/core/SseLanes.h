@@ -1,10 +1,9 @@
 #pragma once
 
 #include "mirolen/core/PlainLanes.h"
+#include "mirolen/core/sse.h"
 
-#if defined(__SSE2__) || defined(_M_X64)
-#define MIROLEN_SSE_LANES
-#include <emmintrin.h>
+#ifdef MIROLEN_SSE
 
 namespace mirolen {
 
