@@ -36,15 +36,6 @@ SiteList ring_of_sites(int n, double radius) {
   return sites;
 }
 
-double weighted_mean(const std::vector<std::pair<double, double>>& distances_and_values) {
-  double above = 0, below = 0;
-  for (const auto& [distance, value] : distances_and_values) {
-    above += value / (distance * distance);
-    below += 1 / (distance * distance);
-  }
-  return above / below;
-}
-
 TEST(Interpolation, IsZeroEverywhereWithThreeSites) {
   wafer sample;
   set_diameters(sample, kDiameter, kDiameter);

@@ -89,6 +89,15 @@ std::string file_bytes(const SiteList& sites) {
          bytes_of(column(sites, &Site::z));
 }
 
+double weighted_mean(const std::vector<std::pair<double, double>>& distances_and_values) {
+  double above = 0, below = 0;
+  for (const auto& [distance, value] : distances_and_values) {
+    above += value / (distance * distance);
+    below += 1 / (distance * distance);
+  }
+  return above / below;
+}
+
 SiteList read_sites(const std::string& name) {
   std::ifstream file(std::filesystem::path(MIROLEN_DATA) / name);
   if (!file) throw std::runtime_error("no example data " + name);

@@ -8,6 +8,7 @@
 #include <random>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "mirolen/core/wafer.h"
@@ -42,6 +43,9 @@ std::vector<double> column(const SiteList& sites, double Site::*member);
 /// The data file of these sites.
 std::string file_bytes(const SiteList& sites);
 std::string bytes_of(const std::vector<double>& numbers);
+
+/// The mean of values by the inverse squares of their distances.
+double weighted_mean(const std::vector<std::pair<double, double>>& distances_and_values);
 
 /// A site list with the header x_mm,y_mm,z out of the example data.
 SiteList read_sites(const std::string& name);
