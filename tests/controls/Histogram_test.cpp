@@ -307,7 +307,7 @@ class HistogramSizes : public HistogramTest, public testing::WithParamInterface<
   }
 };
 
-TEST_P(HistogramSizes, FollowTheToldArithmetic) {
+TEST_P(HistogramSizes, AreWorkedOutStepByStep) {
   const auto [width, height] = GetParam();
   place();
   for (const bool hidden : {false, true}) {

@@ -546,7 +546,7 @@ class LineScanSizes : public LineScanTest, public testing::WithParamInterface<st
   }
 };
 
-TEST_P(LineScanSizes, FollowTheToldArithmetic) {
+TEST_P(LineScanSizes, AreWorkedOutStepByStep) {
   const auto [width, height] = GetParam();
   place();
   control.load(square_of_sites());

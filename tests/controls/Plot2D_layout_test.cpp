@@ -290,7 +290,7 @@ struct Size {
 
 class Plot2DSizes : public Plot2DTest, public testing::WithParamInterface<Size> {};
 
-TEST_P(Plot2DSizes, FollowTheToldArithmetic) {
+TEST_P(Plot2DSizes, AreWorkedOutStepByStep) {
   place();
   control.load(square_of_sites());
   for (const bool hidden : {false, true}) {

@@ -14,7 +14,7 @@ using automation::ObjectReference;
 using automation::Type;
 using automation::Variant;
 
-/// Every boundary that is told of a number, its neighbours, and what no number should be.
+/// Every boundary of a number, its neighbours, and what no number should be.
 const std::vector<double>& boundaries() {
   static const std::vector<double> values{not_a_number,
                                           infinity,

@@ -243,7 +243,7 @@ const std::map<std::string, std::vector<std::pair<std::string, std::int32_t>>> e
     {"PlotTypeEnum", {{"PolyEdge", 1}, {"HiddenWireFrame", 2}, {"WireFrame", 3}}},
     {"PlotTyEnum", {{"vbbottom", 1}, {"vbTop", 2}, {"vbLeft", 3}, {"vbRight", 4}}}};
 
-TYPED_TEST(AllMembers, TakeTheirValuesFromTheToldEnumerations) {
+TYPED_TEST(AllMembers, TakeTheirValuesFromTheEnumerationsOfTheirClass) {
   std::vector<std::string> needed, found;
   for (const auto& [name, told] : this->members)
     if (!told.enumeration.empty()) needed.push_back(told.enumeration);

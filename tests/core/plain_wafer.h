@@ -15,7 +15,7 @@ struct PlainFailure {};
 double half_even(double value);
 
 /// A wafer's core in the plainest words, to measure the real one against. It shares no code with it: the
-/// index is a table of lists, nothing is cached, every step stands where it is told.
+/// index is a table of lists, nothing is cached, and every step is taken.
 class PlainWafer {
  public:
   double WafDiam = 0, WaferOrigRad = 0, test_diam = 0;

@@ -16,7 +16,7 @@ SiteIndex index_of(double GridCell, std::int16_t HalfCells) {
   return index;
 }
 
-/// The cells of an index in their order along one axis, with all that lies about the lines between them.
+/// The lines between the cells along an axis, with the numbers next to them.
 std::vector<double> places_about_lines(const SiteIndex& index) {
   std::vector<double> places;
   for (std::int64_t cell = -2; cell <= index.side() + 1; ++cell) {
@@ -29,21 +29,21 @@ std::vector<double> places_about_lines(const SiteIndex& index) {
   return places;
 }
 
-void expect_the_told_home_where_sure(const SiteIndex& index, double x, double y) {
+void expect_the_home_where_sure(const SiteIndex& index, double x, double y) {
   const QuickHome home = quick_home(index, {x, y});
   if (!home.sure) return;
-  const SiteIndex::Home told = index.home(x, y);
-  ASSERT_TRUE(index.contains(told)) << x << ' ' << y;
-  ASSERT_EQ(home.x, told.x) << x << ' ' << y;
-  ASSERT_EQ(home.y, told.y) << x << ' ' << y;
+  const SiteIndex::Home slow = index.home(x, y);
+  ASSERT_TRUE(index.contains(slow)) << x << ' ' << y;
+  ASSERT_EQ(home.x, slow.x) << x << ' ' << y;
+  ASSERT_EQ(home.y, slow.y) << x << ' ' << y;
 }
 
 TEST(QuickHome, IsTheHomeAboutTheLinesBetweenCells) {
   for (const double cell : {2.0, 2.5262, 11.21, 1.0 / 3}) {
     const SiteIndex index = index_of(cell, 7);
     for (const double place : places_about_lines(index)) {
-      ASSERT_NO_FATAL_FAILURE(expect_the_told_home_where_sure(index, place, 0.1));
-      ASSERT_NO_FATAL_FAILURE(expect_the_told_home_where_sure(index, 0.1, place));
+      ASSERT_NO_FATAL_FAILURE(expect_the_home_where_sure(index, place, 0.1));
+      ASSERT_NO_FATAL_FAILURE(expect_the_home_where_sure(index, 0.1, place));
     }
   }
 }
@@ -68,7 +68,7 @@ TEST(QuickHome, IsNotSureOutsideOfTheIndex) {
 
 class QuickHomeOfRandomPoints : public RandomInput {};
 
-TEST_F(QuickHomeOfRandomPoints, IsSureAndTheToldOneInsideTheIndex) {
+TEST_F(QuickHomeOfRandomPoints, IsSureInsideTheIndexAndTheHome) {
   for (int set = 0; set < 100; ++set) {
     const auto half_cells = static_cast<std::int16_t>(between(random, 0, 60));
     const SiteIndex index = index_of(std::exp(between(random, -5.0, 5.0)), half_cells);
@@ -76,7 +76,7 @@ TEST_F(QuickHomeOfRandomPoints, IsSureAndTheToldOneInsideTheIndex) {
     for (int i = 0; i < 200; ++i) {
       const double x = between(random, -end, end), y = between(random, -end, end);
       ASSERT_TRUE(quick_home(index, {x, y}).sure) << x << ' ' << y;
-      ASSERT_NO_FATAL_FAILURE(expect_the_told_home_where_sure(index, x, y));
+      ASSERT_NO_FATAL_FAILURE(expect_the_home_where_sure(index, x, y));
     }
   }
 }

@@ -79,7 +79,7 @@ class RandomStoreCalls : public RandomInput {
   void call_SetGridValue() {
     for (int i = between(random, 1, 12); i > 0; --i) {
       const Site site = some_site();
-      // What comes first of a surplus site and a number that is not finite is not told.
+      // What comes first of a surplus site and a number that is not finite is left open.
       if (!std::isfinite(site.x + site.y + site.z)) continue;
       expect_both([&] { real.SetGridValue(site.x, site.y, site.z); }, [&] { plain.SetGridValue(site); });
     }
@@ -147,7 +147,7 @@ class RandomStoreCalls : public RandomInput {
     const double count = right_count ? static_cast<double>(sites.size()) : some_count();
     for (Site& site : sites) {
       site = {between(random, -70.0, 70.0), between(random, -70.0, 70.0), between(random, -1.0, 50.0)};
-      // Which of two faults is found first is not told.
+      // Which of two faults is found first is left open.
       if (right_count) site.z = some_number(-1, 50);
     }
     std::string bytes = file_bytes(sites);
