@@ -87,9 +87,9 @@ std::unique_ptr<Surface> SpyToolkit::make_surface(PictureBox& box) {
   return surface;
 }
 
-void SpyToolkit::run_pending_events() {
+void SpyToolkit::paint_pending() {
   ++redraws;
-  HeadlessToolkit::run_pending_events();
+  HeadlessToolkit::paint_pending();
 }
 
 void Plot2DTest::narrow_labels() {

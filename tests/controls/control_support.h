@@ -45,7 +45,7 @@ class SpyToolkit : public HeadlessToolkit {
   int redraws = 0;
 
   std::unique_ptr<Surface> make_surface(PictureBox& box) override;
-  void run_pending_events() override;
+  void paint_pending() override;
 };
 
 /// A form without a scale mode.

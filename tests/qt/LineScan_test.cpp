@@ -112,12 +112,14 @@ TEST_F(LineScanFace, TellsAnAngleThatIsSetAndRefusesOneBeyondTheCircle) {
 TEST_F(LineScanFace, TellsEachAngleThatTheUserGivesOnce) {
   QSignalSpy changed(&face, &qt::LineScan::angleChanged);
   type("45");
+  QTest::qWait(0);  // told when Qt has done with the key
   EXPECT_EQ(changed.size(), 2) << "4, then 45";
   QTest::keyClick(&field(), Qt::Key_Up);
   EXPECT_EQ(changed.size(), 3);
   QTest::mouseClick(spinner().findChildren<QToolButton*>()[1], Qt::LeftButton);
   EXPECT_EQ(changed.size(), 4);
   QTest::keyClick(&field(), Qt::Key_X);
+  QTest::qWait(0);
   EXPECT_EQ(changed.size(), 5) << "no number is 0";
   QTest::keyClick(&field(), Qt::Key_Left);
   EXPECT_EQ(changed.size(), 5);

@@ -281,14 +281,5 @@ TEST(PlotWidget, ShowsItsMessagesInABoxOverTheWindow) {
   EXPECT_EQ(parent, plot.face.window());
 }
 
-TEST(PlotWidget, LetsTheHostHandleEventsWhileItDraws) {
-  ShownPlot plot;
-  bool handled = false;
-  QTimer::singleShot(0, &plot.face, [&] { handled = true; });
-  plot.face.SetPlotNotVaild();
-  plot.face.Plot();
-  EXPECT_TRUE(handled);
-}
-
 }  // namespace
 }  // namespace mirolen

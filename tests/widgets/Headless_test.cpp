@@ -21,11 +21,11 @@ TEST(HeadlessToolkit, KeepsMessagesInTheirOrder) {
 
 TEST(HeadlessToolkit, RunsThePendingEventsOfTheTest) {
   HeadlessToolkit toolkit;
-  toolkit.run_pending_events();
+  toolkit.paint_pending();
   int runs = 0;
   toolkit.pending_events = [&] { ++runs; };
-  toolkit.run_pending_events();
-  toolkit.run_pending_events();
+  toolkit.paint_pending();
+  toolkit.paint_pending();
   EXPECT_EQ(runs, 2);
 }
 

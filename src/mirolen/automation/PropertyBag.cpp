@@ -29,7 +29,7 @@ void MemoryPropertyBag::write(const std::string& key, const Variant& value, cons
   values[key] = value;
 }
 
-void ReadProperties(const Object& object, const PropertyBag& bag) {
+void ReadProperties(Object object, const PropertyBag& bag) {
   for (const StoredKey& key : object.info->stored) read_property(object, bag, key);
 }
 

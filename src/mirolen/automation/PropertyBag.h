@@ -28,7 +28,7 @@ class MemoryPropertyBag : public PropertyBag {
 
 /// Gives every stored property its value from the bag, or its default, in the order of the keys. A value that
 /// has no reading in its key's type counts as missing.
-void ReadProperties(const Object& object, const PropertyBag& bag);
+void ReadProperties(Object object, const PropertyBag& bag);
 
 /// Writes every stored property, in the order of the keys and with the types of the bag.
 /// @throws OverflowError for a value that does not fit the type of its key, when all others are written.

@@ -1,5 +1,7 @@
 #include "mirolen/controls/CellMapFrame.h"
 
+#include <algorithm>
+
 #include "mirolen/core/translation.h"
 #include "mirolen/render/StringFormat.h"
 
@@ -12,8 +14,7 @@ constexpr double default_resolution = 5;
 
 void CellMapFrame::Resolution(double v) {
   if (!(v > 0)) v = default_resolution;
-  if (wafobj.test_diam / 4 < v) v = wafobj.test_diam / 4;
-  resolution_ = v;
+  resolution_ = std::min(v, coarsest());
   look_changed("Resolution");
 }
 
@@ -27,11 +28,10 @@ void CellMapFrame::fill_in_settings() {
 }
 
 void CellMapFrame::prepare_redraw() {
-  const double finest = wafobj.test_diam / 4;
-  if (!(finest < resolution_)) return;
-  resolution_ = finest;
+  if (!is_too_coarse()) return;
+  resolution_ = coarsest();
   notify("Resolution");
-  toolkit().message_box(tr("Maximal possible resolution is ") + StringFormat::plain_text(finest) + " mm",
+  toolkit().message_box(tr("Maximal possible resolution is ") + StringFormat::plain_text(coarsest()) + " mm",
                         tr("Standard resolution to high "), MessageIcon::critical);
   ShowPlotOption();
 }

@@ -15,6 +15,8 @@ class CellMapFrame : public MapFrame {
   /// Marks the sites: a minus below the mean, a plus at or above it.
   void ShowSites(Sites v);
 
+  bool asks_before_drawing() const override { return wafobj.GetNop() > 0 && is_too_coarse(); }
+
  protected:
   using MapFrame::MapFrame;
 
@@ -25,6 +27,9 @@ class CellMapFrame : public MapFrame {
   std::int16_t marks() const { return static_cast<std::int16_t>(show_sites_); }
 
  private:
+  double coarsest() const { return wafobj.test_diam / 4; }
+  bool is_too_coarse() const { return coarsest() < resolution_; }
+
   double resolution_ = 0;
   Sites show_sites_ = Sites::HideSite;
 };

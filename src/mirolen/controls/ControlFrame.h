@@ -126,6 +126,9 @@ class ControlFrame : public UserControl {
   /// The settings of a control that is new to its form.
   virtual void InitProperties() = 0;
 
+  /// Whether the next drawing is going to ask the user for something, in a form.
+  virtual bool asks_before_drawing() const { return false; }
+
   /// The size of a control that is new to its form, in twips.
   static constexpr SurfaceSize usual_size{6900, 4800};
   /// The size that a control takes by itself where its form gives it less, in twips.

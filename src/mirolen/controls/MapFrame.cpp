@@ -171,7 +171,7 @@ void MapFrame::RedrawPlot() {
   const Hourglass busy(*this);
   if (!(wafobj.GetNop() > 0)) return;
   if (RePlot.Stretch) forget_snapshot();
-  toolkit().run_pending_events();
+  toolkit().paint_pending();
   prepare_redraw();
   show_orientation();
   Refresh();

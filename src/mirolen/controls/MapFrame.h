@@ -57,7 +57,7 @@ class MapFrame : public ControlFrame {
 
   /// Renders: the one place that does. @throws RunTimeError, with the mouse pointer put back.
   void RedrawPlot();
-  /// What comes before the drawing, while the host's events have been handled.
+  /// What comes before the drawing, when all that waited has been painted.
   virtual void prepare_redraw() {}
   virtual void draw_plot() = 0;
   /// The ten-row legend, unless a control has another.

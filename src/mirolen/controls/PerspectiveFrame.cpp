@@ -71,7 +71,7 @@ void PerspectiveFrame::start_drag(float x, float y) {
   PLOTA.Visible = true;
   RePlot.Stretch = false;
   PlotValid = false;
-  toolkit().run_pending_events();
+  toolkit().paint_pending();
   if (Dragging) draw_coarse();  // unless the button has come up meanwhile
 }
 

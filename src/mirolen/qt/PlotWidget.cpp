@@ -30,21 +30,24 @@ class PlotWidget::Host : public Container {
 
   void ScaleMode(std::int16_t) override {}  // a form of Qt knows one scale only
   void changed(std::string_view property) override {
-    if (face_) face_->property_changed(property);
+    if (property == "HideLegend" && face_) face_->updateGeometry();
+    tell([name = std::string(property)](PlotWidget& face) { face.property_changed(name); });
   }
-  void Click() override {
-    if (face_) emit face_->Click();
-  }
-  void DblClick() override {
-    if (face_) emit face_->DblClick();
-  }
+  void Click() override { tell(&PlotWidget::Click); }
+  void DblClick() override { tell(&PlotWidget::DblClick); }
   void MouseDown(const MouseEvent& e) override { tell(&PlotWidget::MouseDown, e); }
   void MouseMove(const MouseEvent& e) override { tell(&PlotWidget::MouseMove, e); }
   void MouseUp(const MouseEvent& e) override { tell(&PlotWidget::MouseUp, e); }
 
  private:
-  void tell(void (PlotWidget::*signal)(int, int, float, float), const MouseEvent& e) {
-    if (face_) emit(face_->*signal)(e.Button, e.Shift, e.x, e.y);
+  using MouseSignal = void (PlotWidget::*)(int, int, float, float);
+  void tell(MouseSignal signal, const MouseEvent& e) {
+    tell([=](PlotWidget& face) { emit(face.*signal)(e.Button, e.Shift, e.x, e.y); });
+  }
+  /// Raises a signal, after which there may be no face any more.
+  template <class Raise>
+  void tell(Raise raise) {
+    if (face_) face_->toolkit().in_hosts_turn([this, raise] { std::invoke(raise, *face_); });
   }
 
   QPointer<PlotWidget> face_;
@@ -55,7 +58,7 @@ class PlotWidget::Remains : public QObject {
  public:
   explicit Remains(PlotWidget& face)
       : toolkit_(std::move(face.toolkit_)), host_(std::move(face.host_)), control_(std::move(face.control_)) {
-    toolkit_->on_waited = [this] { deleteLater(); };
+    toolkit_->after_turn = [this] { deleteLater(); };
   }
 
  private:
@@ -75,7 +78,7 @@ PlotWidget::PlotWidget(QWidget* parent)
 
 PlotWidget::~PlotWidget() {
   // Deleted within a call of its control, which has to come to its end.
-  if (toolkit_->is_waiting()) new Remains(*this);
+  if (toolkit_->is_hosts_turn()) new Remains(*this);
 }
 
 Container& PlotWidget::container() { return *host_; }
@@ -165,11 +168,10 @@ void PlotWidget::property_changed(std::string_view name) {
   if (index < 0) index = metaObject()->indexOfProperty(own.toLower());
   const QMetaProperty property = metaObject()->property(index);
   if (property.hasNotifySignal()) property.notifySignal().invoke(this, Qt::DirectConnection);
-  if (name == "HideLegend") updateGeometry();
 }
 
 void PlotWidget::take_size() {
-  if (!control_ || size() == told_) return;
+  if (size() == told_) return;
   told_ = size();
   if (size() == QSize(pixels_of(control_->Width), pixels_of(control_->Height))) return;
   if (!seen_) control_->SetPlotNotVaild();
@@ -187,11 +189,10 @@ void PlotWidget::change_ratio(double ratio) {
 }
 
 void PlotWidget::take_ratio() {
-  if (control_ && toolkit_->ratio() != devicePixelRatioF()) change_ratio(devicePixelRatioF());
+  if (toolkit_->ratio() != devicePixelRatioF()) change_ratio(devicePixelRatioF());
 }
 
 void PlotWidget::take_palette() {
-  if (!control_) return;
   const QPointer<PlotWidget> alive(this);
   toolkit_->erase_pictures(*control_);
   redraw();
@@ -200,10 +201,20 @@ void PlotWidget::take_palette() {
   control_->BackColor(control_->BackColor());
 }
 
+void PlotWidget::follow(void (PlotWidget::*step)()) {
+  if (!control_) return;
+  if (control_->asks_before_drawing()) {
+    QMetaObject::invokeMethod(this, step, Qt::QueuedConnection);
+    return;
+  }
+  const QtToolkit::QtsTurn turn(*toolkit_);
+  (this->*step)();
+}
+
 bool PlotWidget::event(QEvent* event) {
   const bool handled = QWidget::event(event);
-  if (event->type() == QEvent::ScreenChangeInternal) take_ratio();
-  if (event->type() == QEvent::PaletteChange) take_palette();
+  if (event->type() == QEvent::ScreenChangeInternal) follow(&PlotWidget::take_ratio);
+  if (event->type() == QEvent::PaletteChange) follow(&PlotWidget::take_palette);
   return handled;
 }
 
@@ -214,9 +225,11 @@ void PlotWidget::paintEvent(QPaintEvent*) {
     QMetaObject::invokeMethod(this, &PlotWidget::take_ratio, Qt::QueuedConnection);
 }
 
-void PlotWidget::resizeEvent(QResizeEvent*) { take_size(); }
+void PlotWidget::resizeEvent(QResizeEvent*) { follow(&PlotWidget::take_size); }
 
-void PlotWidget::showEvent(QShowEvent*) {
+void PlotWidget::showEvent(QShowEvent*) { follow(&PlotWidget::take_first_sight); }
+
+void PlotWidget::take_first_sight() {
   const QPointer<PlotWidget> alive(this);
   take_size();
   if (alive) take_ratio();

@@ -23,8 +23,9 @@ namespace mirolen::qt {
 /// The control takes the smallest size it can work in by itself, also against a layout; `minimumSizeHint`
 /// tells it.
 ///
-/// A face may be deleted while its control waits for the user of a form or of a message: they are closed, and
-/// the control comes to its end unseen.
+/// A face may be deleted in any slot of its signals, and while its control waits for the user of a form or of
+/// a message, which are closed then; the call of the control comes to its end unseen. What changes while Qt
+/// itself works with the face (a change of size, a character typed) is told behind that.
 class PlotWidget : public QWidget {
   Q_OBJECT
   Q_PROPERTY(double TestDiameter READ TestDiameter WRITE setTestDiameter NOTIFY TestDiameterChanged)
@@ -195,9 +196,12 @@ class PlotWidget : public QWidget {
 
   void take(std::unique_ptr<ControlFrame> control);
   void property_changed(std::string_view name);
+  /// Runs a step for an event of Qt, or behind it where the step is going to ask the user.
+  void follow(void (PlotWidget::*step)());
   void take_size();
   void take_ratio();
   void take_palette();
+  void take_first_sight();
   void redraw();
 
   std::unique_ptr<QtToolkit> toolkit_;

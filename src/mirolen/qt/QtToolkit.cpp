@@ -37,18 +37,9 @@ void for_each_picture(Widget& root, const Action& act) {
 
 }  // namespace
 
-/// A time in which the host may do anything, even delete the face.
-class QtToolkit::Wait {
- public:
-  explicit Wait(QtToolkit& toolkit) : toolkit_(toolkit) { ++toolkit_.waits_; }
-  Wait(const Wait&) = delete;
-  ~Wait() {
-    if (--toolkit_.waits_ == 0 && toolkit_.on_waited) std::exchange(toolkit_.on_waited, nullptr)();
-  }
-
- private:
-  QtToolkit& toolkit_;
-};
+QtToolkit::HostsTurn::~HostsTurn() {
+  if (--toolkit_.turns_ == 0 && toolkit_.after_turn) std::exchange(toolkit_.after_turn, nullptr)();
+}
 
 QtToolkit::QtToolkit(QWidget& face) : face_(&face), ratio_(face.devicePixelRatioF()) {}
 
@@ -97,19 +88,31 @@ QWidget* QtToolkit::front() const {
   return face_;
 }
 
-void QtToolkit::run_pending_events() {
-  const Wait wait(*this);
-  QCoreApplication::processEvents();
+void QtToolkit::in_hosts_turn(std::function<void()> step) {
+  if (!face_) return;
+  if (events_ > 0) {
+    QMetaObject::invokeMethod(
+        face_, [this, step = std::move(step)] { in_hosts_turn(step); }, Qt::QueuedConnection);
+    return;
+  }
+  const HostsTurn turn(*this);
+  step();
+}
+
+void QtToolkit::paint_pending() {
+  if (face_) QCoreApplication::sendPostedEvents(face_->window(), QEvent::UpdateRequest);
 }
 
 void QtToolkit::message_box(const std::string& text, const std::string& title, MessageIcon icon) {
-  if (!face_) return;
-  const Wait wait(*this);
-  if (on_message) return on_message(text_of(text), text_of(title), icon);
+  in_hosts_turn([=, this] { show_message(text_of(text), text_of(title), icon); });
+}
+
+void QtToolkit::show_message(const QString& text, const QString& title, MessageIcon icon) {
+  if (on_message) return on_message(text, title, icon);
   // The box goes with its parent, so it is not held here.
   const QPointer<QMessageBox> box(
-      new QMessageBox(icon == MessageIcon::critical ? QMessageBox::Critical : QMessageBox::NoIcon,
-                      text_of(title), text_of(text), QMessageBox::Ok, front()->window()));
+      new QMessageBox(icon == MessageIcon::critical ? QMessageBox::Critical : QMessageBox::NoIcon, title,
+                      text, QMessageBox::Ok, front()->window()));
   box->setTextFormat(Qt::PlainText);
   box->setWindowModality(Qt::ApplicationModal);
   box->exec();
@@ -119,7 +122,7 @@ void QtToolkit::message_box(const std::string& text, const std::string& title, M
 void QtToolkit::run_modal(Form& form) {
   const QPointer<FormView> view(dynamic_cast<FormView*>(view_of(form)));
   if (!view) return;
-  const Wait wait(*this);
+  const HostsTurn turn(*this);
   const std::unique_ptr<void, std::function<void(void*)>> end(this, [&](void*) {
     std::erase(open_forms_, view.data());
     delete view.data();

@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "mirolen/widgets/Toolkit.h"
+#include "mirolen/widgets/Widget.h"
 
 class QString;
 
@@ -29,7 +29,7 @@ class QtToolkit : public Toolkit {
   std::unique_ptr<Surface> make_surface(PictureBox& box) override;
   SurfaceSize measure(const FontSpec& font, std::string_view text) const override;
   void set_focus(Widget& widget) override;
-  void run_pending_events() override;
+  void paint_pending() override;
   void message_box(const std::string& text, const std::string& title, MessageIcon icon) override;
   void run_modal(Form& form) override;
   SurfaceSize twips_per_pixel() const override;
@@ -43,21 +43,47 @@ class QtToolkit : public Toolkit {
   /// Erases them, after the system's colours have changed.
   void erase_pictures(Widget& root);
 
-  /// Whether the control waits within one of its calls: for a user, or for events.
-  bool is_waiting() const { return waits_ > 0; }
-  /// Run once, when the control waits no longer and is about to go on.
-  std::function<void()> on_waited;
+  /// A time within a call of the control in which the host may do anything, even delete the face: it has a
+  /// signal, or its user has a form or a message.
+  class HostsTurn {
+   public:
+    explicit HostsTurn(QtToolkit& toolkit) : toolkit_(toolkit) { ++toolkit_.turns_; }
+    HostsTurn(const HostsTurn&) = delete;
+    ~HostsTurn();
+
+   private:
+    QtToolkit& toolkit_;
+  };
+  bool is_hosts_turn() const { return turns_ > 0; }
+  /// Run once, when the turn is over and the control is about to go on.
+  std::function<void()> after_turn;
+
+  /// A time in which Qt hands an event to the face or to a view and goes on with that QWidget behind it, so
+  /// that nobody may delete it: what gives the host its turn is put off until Qt has finished.
+  class QtsTurn {
+   public:
+    explicit QtsTurn(QtToolkit& toolkit) : toolkit_(toolkit) { ++toolkit_.events_; }
+    /// For the view of a widget of a QtToolkit.
+    explicit QtsTurn(const Widget& widget) : QtsTurn(dynamic_cast<QtToolkit&>(widget.toolkit())) {}
+    QtsTurn(const QtsTurn&) = delete;
+    ~QtsTurn() { --toolkit_.events_; }
+
+   private:
+    QtToolkit& toolkit_;
+  };
+  /// Gives the host its turn: now, or when Qt has finished, if there is a face then.
+  void in_hosts_turn(std::function<void()> step);
 
  private:
-  class Wait;
-
+  void show_message(const QString& text, const QString& title, MessageIcon icon);
   /// The window that is in front: the form that was opened last, or the face.
   QWidget* front() const;
 
   QPointer<QWidget> face_;
   std::vector<QPointer<QWidget>> open_forms_;
   double ratio_;
-  int waits_ = 0;
+  int turns_ = 0;
+  int events_ = 0;
 };
 
 }  // namespace mirolen::qt

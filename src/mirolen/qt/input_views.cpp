@@ -5,6 +5,7 @@
 #include <QPointer>
 
 #include "mirolen/qt/FormView.h"
+#include "mirolen/qt/QtToolkit.h"
 #include "mirolen/qt/captions.h"
 #include "mirolen/qt/translate.h"
 
@@ -32,8 +33,10 @@ int code_of(int key) {
 
 TextFieldView::TextFieldView(QWidget& parent, TextField& field) : QLineEdit(&parent), field_(field) {
   if (!is_on_form(field)) setFont(text_font(field, *this));
-  QObject::connect(this, &QLineEdit::textEdited, this,
-                   [&field](const QString& text) { field.Text(utf8_of(text)); });
+  QObject::connect(this, &QLineEdit::textEdited, this, [&field](const QString& text) {
+    const QtToolkit::QtsTurn turn(field);
+    field.Text(utf8_of(text));
+  });
 }
 
 void TextFieldView::show_state() {

@@ -17,7 +17,7 @@ SurfaceSize HeadlessToolkit::measure(const FontSpec& font, std::string_view text
   return RecordingSurface({}, twips_per_pixel()).measure(font, text);
 }
 
-void HeadlessToolkit::run_pending_events() {
+void HeadlessToolkit::paint_pending() {
   if (pending_events) pending_events();
 }
 

@@ -20,7 +20,7 @@ class HeadlessToolkit : public Toolkit {
 
   /// What has been shown in message boxes, oldest first.
   std::vector<Message> messages;
-  /// Run at each call for pending events.
+  /// Run where what waits would be painted, for whatever a toolkit lets happen there.
   std::function<void()> pending_events;
   std::shared_ptr<PlotCanvas> printer;
   /// Stands in for the user of a form: types, presses, hides. A form that it leaves open is closed, as every
@@ -33,7 +33,7 @@ class HeadlessToolkit : public Toolkit {
   std::unique_ptr<Surface> make_surface(PictureBox& box) override;
   SurfaceSize measure(const FontSpec& font, std::string_view text) const override;
   void set_focus(Widget& widget) override { focused = &widget; }
-  void run_pending_events() override;
+  void paint_pending() override;
   void message_box(const std::string& text, const std::string& title, MessageIcon icon) override;
   void run_modal(Form& form) override;
   SurfaceSize twips_per_pixel() const override { return {15, 15}; }

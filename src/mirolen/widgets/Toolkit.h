@@ -41,8 +41,9 @@ class Toolkit {
   /// Size of a text in pixels.
   virtual SurfaceSize measure(const FontSpec& font, std::string_view text) const = 0;
   virtual void set_focus(Widget& widget) = 0;
-  /// Lets events that wait be handled. The host may call anything from there.
-  virtual void run_pending_events() = 0;
+  /// Paints what waits to be painted, of the control and of its window. Nothing else happens: no input, no
+  /// timer, no deferred deletion, so no code of the host runs within a call of the control.
+  virtual void paint_pending() = 0;
   /// Shows a message modally and waits for its button.
   virtual void message_box(const std::string& text, const std::string& title, MessageIcon icon) = 0;
   /// Lets the user work with a form, and with nothing else, until it is hidden. Its peers have been made.
