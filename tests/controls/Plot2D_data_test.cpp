@@ -161,8 +161,23 @@ TEST_F(Plot2DData, AnErrorInLoadingLeavesTheDrawing) {
   EXPECT_EQ(control.load(sites), 4);
   EXPECT_FALSE(picture_is_blank());
   EXPECT_TRUE(control.PlotShown);
-  EXPECT_TRUE(control.PlotValid);
   EXPECT_NE(control.RePlot.Picture.get(), nullptr);
+}
+
+TEST_F(Plot2DData, AnErrorInLoadingThatLeavesOtherSitesShowsThemWithTheNextPlot) {
+  plot_square();
+  SiteColumns sites = sites_near_centre();
+  sites.x[4] = 1e6;
+  for (int more = 0; more < 5; ++more) {
+    sites.x.push_back(more);
+    sites.y.push_back(1);
+    sites.z.push_back(5);
+  }
+  EXPECT_EQ(control.load(sites), 4);
+  ASSERT_EQ(sites_of(control), sites);
+  const auto before = control.RePlot.Picture.get();
+  control.Plot();
+  EXPECT_NE(control.RePlot.Picture.get(), before);
 }
 
 TEST_F(Plot2DData, LoadingTellsNoChange) {

@@ -83,10 +83,29 @@ TEST_F(Plot2DLimits, InTheWrongOrderAreRefused) {
   expect_limits(10, 90);
 }
 
-TEST_F(Plot2DLimits, ThatAreRefusedDrawAllTheSame) {
+TEST_F(Plot2DLimits, ThatAreRefusedOrReleasedWithoutAChangeLeaveThePlotAlone) {
   plot_square();
-  control.SetPlotLimit(50, 50);
-  EXPECT_EQ(toolkit.redraws, 1);
+  EXPECT_FALSE(control.SetPlotLimit(50, 50));
+  control.ReleasePlotLimit();
+  EXPECT_TRUE(control.PlotValid);
+  EXPECT_EQ(toolkit.redraws, 0);
+}
+
+/// A change of size has drawn the plot, though nobody has asked for it yet.
+TEST_F(Plot2DLimits, ThatChangeBeforeThePlotIsAskedForAreInIt) {
+  place();
+  ASSERT_EQ(control.load(square_of_sites()), 0);
+  control.resize_to(6500, 4500);
+  ASSERT_TRUE(control.PlotValid);
+  EXPECT_TRUE(control.SetPlotLimit(4, 6));
+  EXPECT_FALSE(control.PlotValid);
+  control.Plot();
+  ASSERT_TRUE(control.PlotValid);
+  control.clear();
+  control.resize_to(6000, 4000);
+  ASSERT_TRUE(control.PlotValid);
+  control.ReleasePlotLimit();
+  EXPECT_FALSE(control.PlotValid);
 }
 
 TEST_F(Plot2DLimits, OutlastNewData) {

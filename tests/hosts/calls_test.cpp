@@ -129,9 +129,12 @@ TEST(ALongPlot, IsSeenToGrow) {
 }
 
 TEST_F(WaferList, ShowsTheCurrentWaferWhileAKeyIsHeld) {
-  for (int i = 0; i < wafers; ++i)
-    QApplication::postEvent(&list, new QKeyEvent(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, {}, true));
-  QTest::qWait(0);
+  QTimer::singleShot(0, [this] {
+    for (int i = 0; i < wafers; ++i)
+      QApplication::postEvent(&list, new QKeyEvent(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, {}, true));
+    QTimer::singleShot(0, [] { QApplication::exit(); });
+  });
+  QApplication::exec();
   expect_shown(wafers);
 }
 

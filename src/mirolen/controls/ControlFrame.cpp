@@ -36,6 +36,7 @@ std::int16_t ControlFrame::SetWaferData(const ArrayView& x, const ArrayView& y, 
     data_changed();
     return result;
   } catch (const std::exception&) {
+    PlotValid = false;  // the drawing stays, but the next one shows what the store holds now
     return 4;
   }
 }
@@ -113,24 +114,25 @@ bool ControlFrame::confirmed(OptionForm& form) {
 }
 
 bool ControlFrame::SetPlotLimit(double LPL, double UPL) {
+  if (!std::isfinite(LPL) || !std::isfinite(UPL)) return false;
   if (UPL == wafobj.maximal && LPL == wafobj.minimal) return false;
   bool taken = false;
   quietly([&] { taken = GlobalFunctions::ApplyPlotLimit(wafobj, LPL, UPL); });
   PlotLimitSet = taken;
-  replot();  // the host may change the limits again while it draws
+  if (taken) limits_changed();
   return taken;
 }
 
 void ControlFrame::ReleasePlotLimit() {
   PlotLimitSet = false;
+  if (wafobj.maximal == wafobj.maxi && wafobj.minimal == wafobj.mini) return;
   quietly([&] { wafobj.setMaximalMinial(wafobj.maxi, wafobj.mini); });
-  replot();
+  limits_changed();
 }
 
-void ControlFrame::replot() {
-  if (!PlotShown) return;
-  PlotValid = false;
-  Plot();
+void ControlFrame::limits_changed() {
+  PlotValid = false;  // also while no plot is asked for: a change of size may have drawn one
+  if (PlotShown) Plot();
 }
 
 double ControlFrame::range() const { return finite_or_zero(wafobj.maxi - wafobj.mini); }

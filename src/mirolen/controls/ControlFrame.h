@@ -54,7 +54,7 @@ class ControlFrame : public UserControl {
   void SetPlotNotVaild() { PlotValid = false; }
 
   /// Sets the ends of the scale; draws at once if there is a plot. @return true if a new limit was taken: LPL
-  /// below UPL and not both in force already. A refused one leaves the scale as it is.
+  /// below UPL and not both in force already. A refused one leaves scale and plot as they are.
   virtual bool SetPlotLimit(double LPL, double UPL);
   /// Puts the scale back to the data's own extremes.
   virtual void ReleasePlotLimit();
@@ -213,7 +213,7 @@ class ControlFrame : public UserControl {
 
  private:
   void data_changed();
-  void replot();
+  void limits_changed();
 
   Container& container_;
   bool sizing_itself_ = false;

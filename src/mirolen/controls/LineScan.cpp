@@ -202,7 +202,11 @@ void LineScan::InitProperties() {
 }
 
 void LineScan::show_plot() {
-  quietly([&] { RedrawPlot(); });
+  quietly([&] {
+    // Other data may need more room for the numbers beside the chart, or less.
+    if (PLOTA.Left != left_of_chart()) lay_out_chart();
+    RedrawPlot();
+  });
 }
 
 void LineScan::RedrawPlot() {
@@ -291,14 +295,26 @@ void LineScan::lay_out() {
   constexpr double strip = 1400;
   raise_size(smallest_size());
   PlotFrame.Move(0, 0, ScaleWidth(), LegendShown ? ScaleHeight() - strip : ScaleHeight());
-  resume([&] { lblY(4).Caption = wafobj.scan_label(wafobj.maximal); });
-  const double L = lblY(4).Left + lblY(4).Width;
-  PLOTA.Move(L + 50, {}, PlotFrame.Width - (L + 250), PlotFrame.Height - 1025);
   if (LegendShown) {
     for (int panel = 0; panel < 2; ++panel)
       FNLabel(panel).Move(ScaleWidth() / 2 - 1500, ScaleHeight() - FNLabel(0).Height);
     btnoptions.Move(ScaleWidth() - btnoptions.Width, FNLabel(0).Top + FNLabel(0).Height - btnoptions.Height);
   }
+  lay_out_chart();
+  if (PlotShown) resume([&] { draw_curve(plot_type_ == PlotTypeEnumLineScan::vbAngle); });
+}
+
+/// The width of the topmost label decides the room of the chart.
+double LineScan::left_of_chart() {
+  const ResumeNext resume([] {});
+  resume([&] { lblY(4).Caption = wafobj.scan_label(wafobj.maximal); });
+  return lblY(4).Left + lblY(4).Width + 50;
+}
+
+void LineScan::lay_out_chart() {
+  const ResumeNext resume([] {});
+  const double left = left_of_chart();
+  PLOTA.Move(left, {}, PlotFrame.Width - (left + 200), PlotFrame.Height - 1025);
   plus.Move(PLOTA.Left, PLOTA.Top);
   place_labels();
   resume([&] {
@@ -306,7 +322,6 @@ void LineScan::lay_out() {
     PLOTA.Cls();
   });
   resume([&] { wafobj.D1Plot_AdjustLines(PLOTA, 0, 0, PLOTA.Width, PLOTA.Height); });
-  if (PlotShown) resume([&] { draw_curve(plot_type_ == PlotTypeEnumLineScan::vbAngle); });
 }
 
 void LineScan::place_labels() {

@@ -122,6 +122,8 @@ class LineScan : public ControlFrame {
   void tell_angle();
   void angle_text_changed();
   void angle_key(int key);
+  double left_of_chart();
+  void lay_out_chart();
   void place_labels();
   void take_line(const frmPlotOpt1D& form);
   bool line_mode() const { return plot_type_ == PlotTypeEnumLineScan::vbline; }

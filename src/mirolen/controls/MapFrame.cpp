@@ -88,7 +88,8 @@ void MapFrame::BackColor(Color v) {
   frleg.BackColor = v;
   Frame1.BackColor = v;
   color_legend(v);
-  if (PlotShown) quietly([&] { show_orientation(); });  // its picture was erased to the new background
+  // The picture of the mark was erased to the new background.
+  if (PlotShown || PlotValid) quietly([&] { repeat_orientation(); });
   notify("BackColor");
 }
 

@@ -64,6 +64,8 @@ class MapFrame : public ControlFrame {
   virtual void fill_legend();
   /// The miniature in plan view, unless a control turns it.
   virtual void show_orientation();
+  /// The same as at the last drawing, which may still be seen.
+  virtual void repeat_orientation() { show_orientation(); }
   /// Where in `wafobj` a colour lies.
   virtual double& color_field(int interval);
   /// Gives a background to what a control has in its legend beyond the children of all.

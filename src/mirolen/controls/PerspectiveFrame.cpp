@@ -48,8 +48,14 @@ void PerspectiveFrame::take_view(const ViewOptions& form) {
 }
 
 void PerspectiveFrame::show_orientation() {
+  drawn_rotation_ = wafer_rotation_;
+  drawn_inclination_ = grid_inclination_;
+  repeat_orientation();
+}
+
+void PerspectiveFrame::repeat_orientation() {
   double x0 = 34, y0 = 34;
-  wafobj.FlatNotchShow(&FNLabel, FNPic, x0, y0, 30, wafer_rotation_, grid_inclination_);
+  wafobj.FlatNotchShow(&FNLabel, FNPic, x0, y0, 30, drawn_rotation_, drawn_inclination_);
 }
 
 void PerspectiveFrame::drag_on(Widget& widget, double units_per_pixel) {

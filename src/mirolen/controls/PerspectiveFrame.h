@@ -31,6 +31,7 @@ class PerspectiveFrame : public MapFrame {
   PerspectiveFrame(Toolkit& toolkit, Container& container);
 
   void show_orientation() override;
+  void repeat_orientation() override;
   void draw_plot() final { draw_view(false); }
   /// Draws the plot, coarse while the user drags.
   virtual void draw_view(bool coarse) = 0;
@@ -48,6 +49,7 @@ class PerspectiveFrame : public MapFrame {
   void draw_coarse();
 
   std::int16_t wafer_rotation_ = 0, grid_rotation_ = 0, grid_inclination_ = 0;
+  std::int16_t drawn_rotation_ = 0, drawn_inclination_ = 0;  ///< Those of the orientation mark that is seen.
   bool Dragging = false;
   float DragX = 0, DragY = 0;
 };
