@@ -4,9 +4,9 @@
 
 namespace mirolen {
 
-/// The library-wide decimal separator of all texts: "." until the first wafer is made. One thread, as all
-/// else.
-const std::string& decimal_separator();
+/// The library-wide decimal separator of all texts: "." until the first wafer is made, then that of the wafer
+/// made last. Safe on every thread.
+std::string decimal_separator();
 
 /// Takes the decimal separator from the C locale in force at the moment of construction.
 struct DecimalSeparatorFromLocale {

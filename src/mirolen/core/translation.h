@@ -10,10 +10,10 @@ namespace mirolen {
 using Translator = std::function<std::string(std::string_view english)>;
 
 /// Puts a translator in force for the whole process, none for an empty one, and gives back the one before, to
-/// be restored. There is no lock: it is set on the thread of the controls, where it is also called, but for
-/// the errors of a wafer, which has its own. What it captures lives as long as it is in force. Texts are
-/// translated when they are set, so controls and open forms keep theirs: a translator comes before the first
-/// control.
+/// be restored. There is no lock: it is set while no wafer works on another thread, and is called on each
+/// thread on which a wafer writes a text or tells an error. What it captures lives as long as it is in force.
+/// Texts are translated when they are set, so controls and open forms keep theirs: a translator comes before
+/// the first control.
 Translator set_translator(Translator translator);
 
 /// The text in the language in force: the English one itself without a translator, and where that knows none.

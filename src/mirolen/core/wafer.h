@@ -39,7 +39,9 @@ using AxisLabels = std::array<CaptionLabel*, 5>;
 /// `SetGridValue` a site, `MaxMin`; or `LoadSiteArrays` and `LoadSiteFile`, which do all that. Before
 /// `MaxMin` has run, statistics are those of the data before and interpolation has no index.
 ///
-/// Members throw RunTimeError and its kin where their comment says so. One thread at a time.
+/// Members throw RunTimeError and its kin where their comment says so. One thread at a time; separate wafers
+/// may work on separate threads, each on canvases of its own, as long as nobody changes the C locale or the
+/// translator meanwhile. They share the decimal separator: that of the wafer made last.
 class wafer {
  public:
   // ---- Colours, as numbers that carry a colour value ----

@@ -39,8 +39,8 @@ std::optional<double> numeric(std::string_view text) {
   const bool negative = take_sign(text) == "-";
   const std::string_view whole = take(text, digits);
   std::string_view decimals;
-  if (text.starts_with(decimal_separator())) {
-    text.remove_prefix(decimal_separator().size());
+  if (const std::string separator = decimal_separator(); text.starts_with(separator)) {
+    text.remove_prefix(separator.size());
     decimals = take(text, digits);
   }
   if (whole.empty() && decimals.empty()) return std::nullopt;

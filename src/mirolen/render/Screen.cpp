@@ -5,8 +5,8 @@
 namespace mirolen {
 
 Screen& screen() {
-  static Screen the_screen;
-  return the_screen;
+  thread_local Screen of_this_thread;
+  return of_this_thread;
 }
 
 double twips_x(const PlotCanvas& canvas) {

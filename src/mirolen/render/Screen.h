@@ -7,7 +7,8 @@ namespace mirolen {
 
 class PlotCanvas;
 
-/// What the renderers, which know no toolkit, need of the screen. The toolkit sets it, once for all controls.
+/// What the renderers, which know no toolkit, need of the screen. Each thread has its own: a toolkit's, for
+/// all controls, on theirs, and one without messages where a wafer is drawn on another.
 struct Screen {
   /// Twips of a pixel, for a page target that is no printer.
   double TwipsPerPixelX = 15;
