@@ -6,8 +6,9 @@ if(MSVC)
   target_compile_options(mirolen_options INTERFACE /W4 /permissive- /utf-8 /fp:precise
                          $<$<BOOL:${MIROLEN_WARNINGS_AS_ERRORS}>:/WX>)
 else()
-  # Results are told to the last bit, so no multiplication may melt into an addition.
-  target_compile_options(mirolen_options INTERFACE -ffp-contract=off -Wall -Wextra -Wpedantic -Wnon-virtual-dtor
+  # Results are told to the last bit, whatever flags a host has set for all of its code, so no multiplication may melt
+  # into an addition.
+  target_compile_options(mirolen_options INTERFACE -fno-fast-math -ffp-contract=off -Wall -Wextra -Wpedantic -Wnon-virtual-dtor
                          -Woverloaded-virtual $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>
                          # Position-independent code may inline its own functions, too: nobody replaces one of them.
                          $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>

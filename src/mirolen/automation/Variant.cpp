@@ -17,7 +17,7 @@ double number_in(const std::string& text, Type to) {
   double number = 0;
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number);
-  if (error != std::errc() || stop != end || !std::isfinite(number)) refuse(Type::text, to);
+  if (error != std::errc() || stop != end || !is_finite(number)) refuse(Type::text, to);
   return number;
 }
 

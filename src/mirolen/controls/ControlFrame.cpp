@@ -12,7 +12,7 @@ namespace {
 constexpr double default_wafer_diameter = 200;
 
 /// What a statistic shows where the extremes are too far apart for a Double.
-double finite_or_zero(double value) { return std::isfinite(value) ? value : 0; }
+double finite_or_zero(double value) { return is_finite(value) ? value : 0; }
 
 }  // namespace
 
@@ -160,14 +160,14 @@ void ControlFrame::WaferDiameter(double v) {
   quietly([&] { wipe_drawing(); });
   forget_snapshot();
   PlotShown = false;
-  wafobj.WafDiam = std::isfinite(v) && v > 0 ? v : default_wafer_diameter;
+  wafobj.WafDiam = is_finite(v) && v > 0 ? v : default_wafer_diameter;
   wafobj.WaferOrigRad = wafobj.WafDiam / 2;
   Refresh();
   notify("WaferDiameter");
 }
 
 void ControlFrame::TestDiameter(double v) {
-  if (!std::isfinite(v) || v < 0) v = wafobj.WafDiam;
+  if (!is_finite(v) || v < 0) v = wafobj.WafDiam;
   if (wafobj.test_diam > v && wafobj.GetNop() > 0)
     quietly([&] { GlobalFunctions::ClipToTestDiameter(keeps_limits(), wafobj, v); });
   wafobj.test_diam = v;

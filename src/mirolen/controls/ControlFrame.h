@@ -198,7 +198,7 @@ class ControlFrame : public UserControl {
     }
   }
   /// The colour that a field of the wafer carries; black where the host has left it no number.
-  static Color color_in(double field) { return std::isfinite(field) ? to_color(field) : 0; }
+  static Color color_in(double field) { return is_finite(field) ? to_color(field) : 0; }
   /// What a setter of a look ends with.
   void look_changed(const char* property);
   void notify(const char* property) { container_.changed(property); }

@@ -1,7 +1,5 @@
 #include "mirolen/controls/Histogram.h"
 
-#include <cmath>
-
 #include "mirolen/controls/Hourglass.h"
 #include "mirolen/dialogs/frmPlotHist.h"
 #include "mirolen/render/ControlLimits.h"
@@ -80,7 +78,7 @@ void Histogram::clear() {
 }
 
 bool Histogram::SetPlotLimit(double LPL, double UPL) {
-  if (!std::isfinite(LPL) || !std::isfinite(UPL)) return false;
+  if (!is_finite(LPL) || !is_finite(UPL)) return false;
   set_limits(true, LPL, UPL);
   return true;
 }

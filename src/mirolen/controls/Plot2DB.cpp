@@ -1,7 +1,5 @@
 #include "mirolen/controls/Plot2DB.h"
 
-#include <cmath>
-
 #include "mirolen/dialogs/frmPlotOpt2DB.h"
 
 namespace mirolen {
@@ -9,7 +7,7 @@ namespace {
 
 constexpr double default_footprint = 5, default_scale = 1;
 
-double finite_or(double fallback, double v) { return std::isfinite(v) ? v : fallback; }
+double finite_or(double fallback, double v) { return is_finite(v) ? v : fallback; }
 
 }  // namespace
 

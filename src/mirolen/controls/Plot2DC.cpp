@@ -1,7 +1,6 @@
 #include "mirolen/controls/Plot2DC.h"
 
 #include <algorithm>
-#include <cmath>
 
 #include "mirolen/dialogs/frmPlotOpt2DC.h"
 #include "mirolen/render/ContourInterval.h"
@@ -51,7 +50,7 @@ Plot2DC::Plot2DC(Toolkit& toolkit, Container& container) : MapFrame(toolkit, con
 }
 
 void Plot2DC::Interval(double v) {
-  interval_ = std::isfinite(v) && v > 0 ? v : default_interval;
+  interval_ = is_finite(v) && v > 0 ? v : default_interval;
   look_changed("Interval");
 }
 

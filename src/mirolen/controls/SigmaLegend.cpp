@@ -1,7 +1,5 @@
 #include "mirolen/controls/SigmaLegend.h"
 
-#include <cmath>
-
 #include "mirolen/controls/CellMapFrame.h"
 #include "mirolen/controls/SurfaceFrame.h"
 #include "mirolen/render/StringFormat.h"
@@ -25,7 +23,7 @@ SigmaLegend<Control>::SigmaLegend(Toolkit& toolkit, Container& container) : Cont
 
 template <class Control>
 void SigmaLegend<Control>::SigmaRange(double v) {
-  sigma_range_ = std::isfinite(v) ? v : default_range;
+  sigma_range_ = is_finite(v) ? v : default_range;
   this->look_changed("SigmaRange");
 }
 

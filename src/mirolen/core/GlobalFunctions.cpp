@@ -48,7 +48,7 @@ constexpr const char* site_number = "a site's number";
 
 bool all_finite(Numbers numbers) {
   bool finite = true;
-  for (const double number : numbers) finite &= std::isfinite(number);
+  for (const double number : numbers) finite &= is_finite(number);
   return finite;
 }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cmath>
 #include <limits>
 
 #include "mirolen/core/Block.h"
@@ -11,6 +10,7 @@
 #include "mirolen/core/Lanes.h"
 #include "mirolen/core/Ring.h"
 #include "mirolen/core/Winners.h"
+#include "mirolen/core/numbers.h"
 #include "mirolen/core/quick_home.h"
 
 namespace mirolen {
@@ -145,7 +145,7 @@ void QuickSearch::values(const SiteIndex& index, const FourPoints& points, doubl
     }
   }
   for (std::size_t k = 0; k < 4; ++k)
-    if (std::isnan(results[k])) results[k] = value(index, x[k], y[k], farthest);
+    if (!is_finite(results[k])) results[k] = value(index, x[k], y[k], farthest);
 }
 
 /// Whether the search, which holds the farthest distance against the square of its reach, looks at the ring

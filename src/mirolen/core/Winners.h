@@ -1,11 +1,11 @@
 #pragma once
 
 #include <array>
-#include <cmath>
 
 #include "mirolen/core/Block.h"
 #include "mirolen/core/Pair.h"
 #include "mirolen/core/QuickSearch.h"
+#include "mirolen/core/numbers.h"
 
 namespace mirolen {
 
@@ -35,7 +35,7 @@ class QuickSearch::Winners {
     const Pair square12 = D12_ * D12_, square34 = D34_ * D34_;
     const double mean =
         sum(z12_ / square12, z34_ / square34) / sum(Pair::all(1) / square12, Pair::all(1) / square34);
-    return std::isfinite(mean) ? mean : unsure;
+    return is_finite(mean) ? mean : unsure;
   }
 
  private:

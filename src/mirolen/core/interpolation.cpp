@@ -30,7 +30,7 @@ double value_from(const NearestFour& nearest, ValueOf value_of) {
 double wafer::Interpolation(double Xa, double Ya) const {
   double value = QuickSearch::unsure;
   if (quick_) value = Quick.value(SiteCells, Xa, Ya, farthest_sure_distance());
-  return std::isnan(value) ? searched_value(Xa, Ya) : value;
+  return is_finite(value) ? value : searched_value(Xa, Ya);
 }
 
 void wafer::Interpolation(std::span<const double> Xa, std::span<const double> Ya,
@@ -41,7 +41,7 @@ void wafer::Interpolation(std::span<const double> Xa, std::span<const double> Ya
   else
     std::fill(values.begin(), values.end(), QuickSearch::unsure);
   for (std::size_t i = 0; i < values.size(); ++i)
-    if (std::isnan(values[i])) values[i] = searched_value(Xa[i], Ya[i]);
+    if (!is_finite(values[i])) values[i] = searched_value(Xa[i], Ya[i]);
 }
 
 /// Sites that are nearer than both find their slots by their distance alone.
@@ -50,12 +50,12 @@ double wafer::farthest_sure_distance() const { return std::min(empty_slot(), fil
 double wafer::empty_slot() const {
   const double R = test_diam / 2;
   const double sentinel = 9 * R * R;
-  return std::isfinite(sentinel) ? sentinel : 0;
+  return is_finite(sentinel) ? sentinel : 0;
 }
 
 double wafer::searched_value(double Xa, double Ya) const {
   try {
-    if (Nop < fewest_sites || !std::isfinite(Xa) || !std::isfinite(Ya)) return 0;
+    if (Nop < fewest_sites || !is_finite(Xa) || !is_finite(Ya)) return 0;
     if (Nop < sites_worth_an_index) return Interpolation_Einfach(Xa, Ya);
     return mean_of_near_sites(Xa, Ya);
   } catch (const RunTimeError&) {

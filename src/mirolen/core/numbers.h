@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <initializer_list>
@@ -21,6 +22,16 @@ using Color = std::uint32_t;
 [[noreturn]] void raise_negative_root();
 [[noreturn]] void raise_not_finite(const char* what);
 
+/// The size of a number as bits, which order as sizes do, with infinity and NaN above them all. It is what
+/// tells those two apart in a host that is compiled with -ffast-math, where no comparison does.
+constexpr std::uint64_t size_bits(double value) {
+  return std::bit_cast<std::uint64_t>(value) & 0x7FFF'FFFF'FFFF'FFFF;
+}
+/// Whether a number is neither infinite nor NaN.
+constexpr bool is_finite(double value) { return size_bits(value) < 0x7FF0'0000'0000'0000; }
+/// Whether a number is nearer to 0 than a limit; NaN never is.
+constexpr bool is_within(double value, double limit) { return size_bits(value) < size_bits(limit); }
+
 /// Rounds to a whole number, ties to the even one, whatever rounding mode the host has set.
 double round_half_even(double value);
 
@@ -39,7 +50,7 @@ inline std::int64_t nearest_whole(double value) {
 template <class Integer>
 Integer to_integer(double value) {
   using Limits = std::numeric_limits<Integer>;
-  if (value > Limits::min() - 1.0 && value < Limits::max() + 1.0) {
+  if (is_within(value, largest_fraction)) {
     const std::int64_t whole = nearest_whole(value);
     if (whole >= Limits::min() && whole <= Limits::max()) return static_cast<Integer>(whole);
   }
@@ -53,7 +64,7 @@ Color to_color_of_large(double value);
 
 /// The 32-bit colour that a Double carries: rounded, modulo 2^32. @throws InvalidArgument if not finite.
 inline Color to_color(double value) {
-  if (std::abs(value) < largest_fraction) return static_cast<Color>(nearest_whole(value));
+  if (is_within(value, largest_fraction)) return static_cast<Color>(nearest_whole(value));
   return to_color_of_large(value);
 }
 
@@ -63,12 +74,12 @@ inline double Int(double value) { return std::floor(value); }
 /// @throws InvalidArgument, naming what, for a number that is infinite or NaN.
 inline void refuse_unless_finite(std::initializer_list<double> numbers, const char* what) {
   for (const double number : numbers)
-    if (!std::isfinite(number)) raise_not_finite(what);
+    if (!is_finite(number)) raise_not_finite(what);
 }
 
 /// The value of an arithmetic expression. @throws OverflowError if it became infinite or NaN on the way.
 inline double checked(double value) {
-  if (!std::isfinite(value)) raise_overflow();
+  if (!is_finite(value)) raise_overflow();
   return value;
 }
 

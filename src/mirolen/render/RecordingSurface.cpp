@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <cstdio>
 #include <ostream>
 
@@ -96,7 +95,7 @@ class JsonLine {
     out_ << ']';
   }
   void number(double value) {
-    if (!std::isfinite(value)) {
+    if (!is_finite(value)) {
       out_ << "null";  // JSON has no word for it
       return;
     }
