@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "print_support.h"
+#include "support/legend_numbers.h"
 #include "support/translators.h"
 
 namespace mirolen {
@@ -192,6 +193,40 @@ TEST(ColoredScale, EndsOpenWhereItIsLimited) {
     EXPECT_EQ(rows.at(1), " 7.000 -  8.000");
     EXPECT_EQ(rows.at(9), " <  0.000");
   }
+}
+
+TEST(ColoredScale, WidensItsFieldToTheLongestNumberSoThatNothingIsCut) {
+  // Steps of 1235.06 with 5 - 2 decimals.
+  const Lines rows = texts(with(values(-12345.6, 5, 1, 1)), kScale);
+  ASSERT_EQ(rows.size(), 10u);
+  EXPECT_EQ(rows.at(0), " -1230.060 -      5.000");
+  EXPECT_EQ(rows.at(9), "-12345.600 - -11110.540");
+}
+
+class ColoredScaleOfAnyRange : public RandomInput {};
+
+TEST_F(ColoredScaleOfAnyRange, ReadsBackToItsDecimals) {
+  int read = 0;
+  for (int round = 0; round < rounds(500); ++round) {
+    const auto [low, high] = any_scale(random);
+    SCOPED_TRACE(testing::Message() << "scale from " << low << " to " << high);
+    const Lines rows = texts(with(values(low, high, 1, 1)), kScale);
+    ASSERT_EQ(rows.size(), 10u);
+    for (int row = 0; row < 10; ++row) {
+      const std::string& text = rows.at(static_cast<std::size_t>(row));
+      if (width_of(text) > 1850) continue;  // it may have lost its end to fit into 2,000
+      SCOPED_TRACE(text);
+      const std::vector<ReadNumber> numbers = numbers_of(text);
+      ASSERT_EQ(numbers.size(), 2u);
+      const double step = (high - low) / 10;
+      expect_read_back(numbers[0], high - (row + 1) * step);
+      expect_read_back(numbers[1], high - row * step);
+      EXPECT_EQ(numbers[0].width, numbers[1].width);
+      ++read;
+    }
+    if (HasFailure()) return;
+  }
+  EXPECT_GT(read, 1000);
 }
 
 TEST(ColoredScale, PutsBoxesThatTouchInPixels) {

@@ -337,6 +337,10 @@ void PlainPage::DrawColoredScale(const wafer& w, double& left, double& top) {
     digits = 9;
   }
   const double colors[] = {w.col1, w.col2, w.col3, w.col4, w.col5, w.col6, w.col7, w.col8, w.col9, w.col10};
+  for (int i = limited ? 1 : 0; i <= (limited ? 9 : 10); ++i) {
+    const std::string uncut = StringFormat::FormatField(hi - i * s, 0, decimals, exponent);
+    digits = std::max(digits, static_cast<std::int16_t>(uncut.size()));
+  }
   for (int i = 0; i < 10; ++i) {
     const std::string a = StringFormat::FormatField(hi - i * s, digits, decimals, exponent);
     const std::string c = StringFormat::FormatField(hi - (i + 1) * s, digits, decimals, exponent);

@@ -5,6 +5,7 @@
 #include <clocale>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 #include <sstream>
 
 #include "mirolen/render/RecordingSurface.h"
@@ -237,6 +238,14 @@ TEST(FormatField, PadsNothingWhereWidthAndDecimalsComeToLessThanZero) {
   EXPECT_EQ(FormatField(1.5, -5, 2, false), "1.5");
   EXPECT_EQ(FormatField(1.5, -3, 1, false), "1.5");
   EXPECT_EQ(FormatField(1.5, 3, -7, false), "1");
+}
+
+TEST(FieldWidth, IsThatOfTheUncutText) {
+  EXPECT_EQ(StringFormat::FieldWidth(5, 3, false), 5);
+  EXPECT_EQ(StringFormat::FieldWidth(-12345.6, 3, false), 10);
+  EXPECT_EQ(StringFormat::FieldWidth(-12345.6, 0, false), 6);
+  EXPECT_EQ(StringFormat::FieldWidth(-1e150, 2, true), 10);
+  EXPECT_EQ(FormatField(-12345.6, 10, 3, false), "-12345.600");
 }
 
 // ---- Captions and tool tips ----

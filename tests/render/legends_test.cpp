@@ -3,6 +3,7 @@
 #include <set>
 
 #include "support/RecordingCompanions.h"
+#include "support/legend_numbers.h"
 #include "support/site_support.h"
 
 namespace mirolen {
@@ -94,6 +95,69 @@ TEST(ColorLegend, TurnsToTheExponentForATinyPositiveTopButNotForANegativeOne) {
   EXPECT_EQ(caption_of(positive, 1), "  5.0E-05 -   4.5E-05");
   wafer_between(-0.0001, -0.00005).scale_colored(negative.boxes, negative.labels);
   EXPECT_EQ(caption_of(negative, 1), " -0.00 -  -0.00");  // digits behind the second are cut
+}
+
+TEST(ColorLegend, WidensItsFieldToTheLongestNumberSoThatNothingIsCut) {
+  // Steps of 1235.06; 5 leaves 5 - 2 and 9 - 2 decimals, -12345.6 takes 10 and 14 places with them.
+  RecordingLegend legend;
+  wafer_between(-12345.6, 5).scale_colored(legend.boxes, legend.labels);
+  EXPECT_EQ(texts_of(legend, 1), (Texts{"     5.000 -  -1230.060", "     5.0000000 -  -1230.0600000"}));
+  EXPECT_EQ(texts_of(legend, 10), (Texts{"-11110.540 - -12345.600", "-11110.5400000 - -12345.6000000"}));
+}
+
+TEST(ColorLegend, LeavesEndsThatItDoesNotShowOutOfItsWidth) {
+  // The limits make a scale of -113498.875 to 21499.875; of its ends the first and the last stand in no row.
+  RecordingLegend legend;
+  wafer source = wafer_between(0, 10);
+  source.setMaximalMinial(8000, -99999);
+  source.scale_colored(legend.boxes, legend.labels);
+  EXPECT_EQ(texts_of(legend, 1), (Texts{" >   8000", " >   8000.000"}));
+  EXPECT_EQ(texts_of(legend, 10), (Texts{" < -99999", " < -99999.000"}));
+}
+
+TEST(ColorLegend, WidensTheTipAloneForALongExponent) {
+  RecordingLegend legend;
+  wafer_between(-2e150, 1e150).scale_colored(legend.boxes, legend.labels);
+  EXPECT_EQ(texts_of(legend, 1), (Texts{" 1.0E+150 -  7.0E+149", " 1.00E+150 -  7.00E+149"}));
+  EXPECT_EQ(texts_of(legend, 10), (Texts{"-1.7E+150 - -2.0E+150", "-1.70E+150 - -2.00E+150"}));
+}
+
+// ---- Any scale, read back ----
+
+class ColorLegendOfAnyScale : public RandomInput {};
+
+TEST_F(ColorLegendOfAnyScale, ReadsBackToItsDecimals) {
+  for (int round = 0; round < rounds(2000); ++round) {
+    auto [low, high] = any_scale(random);
+    wafer source = wafer_between(low, high);
+    const bool limited = chance(random, 0.3);
+    if (limited) {
+      const double margin = (high - low) / 4;
+      source.setMaximalMinial(high + margin, low + margin);
+      low = source.minimal - (source.maximal - source.minimal) / 8;
+      high = source.maximal + (source.maximal - source.minimal) / 8;
+    }
+    SCOPED_TRACE(testing::Message() << "scale from " << low << " to " << high);
+    RecordingLegend legend;
+    source.scale_colored(legend.boxes, legend.labels);
+
+    const auto expect_rows = [&](const auto& text_of_row) {
+      std::set<std::size_t> widths;
+      for (int row = 1; row <= 10; ++row) {
+        const std::string text = text_of_row(row);
+        SCOPED_TRACE(text);
+        const double step = (high - low) / 10, top = high - (row - 1) * step, bottom = high - row * step;
+        const std::vector<ReadNumber> numbers = numbers_of(text);
+        for (const ReadNumber& number : numbers) widths.insert(number.width);
+        if (numbers.size() == 2) expect_read_back(numbers[0], top);
+        expect_read_back(numbers.back(), limited && row == 10 ? top : bottom);
+      }
+      EXPECT_EQ(widths.size(), 1u) << "fields of one width";
+    };
+    expect_rows([&](int row) { return texts_of(legend, row).caption; });
+    expect_rows([&](int row) { return texts_of(legend, row).tip; });
+    if (HasFailure()) return;
+  }
 }
 
 TEST(ColorLegend, PaintsItsBoxesInTheIntervalColors) {

@@ -2,6 +2,7 @@
 
 #include "mirolen/print/PrintWafer.h"
 #include "mirolen/print/target.h"
+#include "mirolen/render/BandEnds.h"
 #include "mirolen/render/ColorScale.h"
 #include "mirolen/render/Screen.h"
 #include "mirolen/render/StringFormat.h"
@@ -9,7 +10,7 @@
 namespace mirolen {
 namespace {
 
-constexpr int rows = 10;
+constexpr int bands = 10;
 
 /// The boxes of a scale, which touch, in pixels of the page.
 struct ScaleBoxes {
@@ -42,33 +43,19 @@ struct ScaleBoxes {
   }
 };
 
-/// How the ends of the bands are written.
-struct BandFormat {
-  std::int16_t digits, decimals;
-  bool useExp = false;
-
-  explicit BandFormat(const ScaleEnds& ends) {
-    const bool negative = ends.low < 0;
-    bool narrow = false;
-    decimals = StringFormat::DecimalsFor(ends.high, negative ? 5 : 6, narrow);
-    StringFormat::DecimalsFor(ends.high, negative ? 9 : 10, useExp);
-    if (useExp) decimals = 2;
-    digits = useExp ? 9 : 6;
-  }
-
-  std::string operator()(double value) const {
-    return StringFormat::FormatField(value, digits, decimals, useExp);
-  }
-};
+NumberField number_field(const ScaleEnds& ends) {
+  const bool negative = ends.low < 0;
+  bool narrow = false, useExp = false;
+  const std::int16_t decimals = StringFormat::DecimalsFor(ends.high, negative ? 5 : 6, narrow);
+  StringFormat::DecimalsFor(ends.high, negative ? 9 : 10, useExp);
+  return useExp ? NumberField{9, 2, true} : NumberField{6, decimals, false};
+}
 
 /// The text of a band; the outer ones of a limited scale are open.
-std::string band_text(const ScaleEnds& ends, int row, const BandFormat& format) {
-  const double step = checked((ends.high - ends.low) / rows);
-  const std::string a = format(ends.high - row * step);
-  const std::string c = format(ends.high - (row + 1) * step);
-  if (ends.limited && row == 0) return " > " + c;
-  if (ends.limited && row == rows - 1) return " < " + a;
-  return c + " - " + a;
+std::string band_text(int band, bool limited, const BandEnds& numbers) {
+  if (limited && band == 1) return " > " + numbers.lower(band);
+  if (limited && band == bands) return " < " + numbers.upper(band);
+  return numbers.lower(band) + " - " + numbers.upper(band);
 }
 
 }  // namespace
@@ -78,10 +65,10 @@ void PrintWafer::DrawColoredScale(const wafer& wafer, double& left, double& top)
   ResetPrinterObj();
   const ScaleBoxes boxes(target, left, top);
   const ScaleEnds ends = scale_ends(wafer);
-  const BandFormat format(ends);
+  const BandEnds numbers(ends, number_field(ends));
   const std::int16_t text_offset = to_int16(divide(450, boxes.pixel.width));
-  for (int row = 0; row < rows; ++row) {
-    std::string text = band_text(ends, row, format);
+  for (int row = 0; row < bands; ++row) {
+    std::string text = band_text(row + 1, ends.limited, numbers);
     DrawLeftText(text, boxes.left + text_offset, boxes.text_top(row), boxes.text_width(), 0);
     boxes.fill(target, row, band_color(wafer, row + 1));
   }

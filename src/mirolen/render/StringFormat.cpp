@@ -160,6 +160,19 @@ std::int16_t text_length(double value) {
   return static_cast<std::int16_t>(text.size() + 1);
 }
 
+/// A value with a number of decimals, as far as so many zeros behind its digits reach, with "." as its
+/// separator.
+std::string with_decimals(double value, std::int16_t decimals, std::size_t zeros, bool useExp) {
+  std::string text = in_pattern(value, Pattern(useExp ? "0.00E+00" : "0.0#########"));
+  const std::size_t e = std::min(text.find('E'), text.size());
+  const std::string exponent = text.substr(e);
+  text = text.substr(0, e) + std::string(zeros, '0');
+
+  const std::size_t point = text.find('.');
+  text.resize(std::min(text.size(), decimals < 1 ? point : point + 1 + static_cast<std::size_t>(decimals)));
+  return text + exponent;
+}
+
 }  // namespace
 
 std::string format_number(double value, std::string_view format) {
@@ -195,22 +208,19 @@ std::int16_t DecimalsFor(double value, std::int16_t maxWidth, bool& useExp) {
 }
 
 std::string FormatField(double value, std::int16_t width, std::int16_t decimals, bool useExp) {
-  std::string text = in_pattern(value, Pattern(useExp ? "0.00E+00" : "0.0#########"));
-  const std::size_t e = std::min(text.find('E'), text.size());
-  const std::string exponent = text.substr(e);
   const std::size_t padding = static_cast<std::size_t>(std::max(width + decimals, 0));
-  text = text.substr(0, e) + std::string(padding, '0');
-
-  const std::size_t point = text.find('.');
-  text.resize(std::min(text.size(), decimals < 1 ? point : point + 1 + static_cast<std::size_t>(decimals)));
-  text += exponent;
-
+  std::string text = with_decimals(value, decimals, padding, useExp);
   if (width > 0) {
     text.insert(0, padding, ' ');
     const auto field = static_cast<std::size_t>(width);
     if (text.size() > field) text.erase(0, text.size() - field);
   }
   return localized(text);
+}
+
+std::int16_t FieldWidth(double value, std::int16_t decimals, bool useExp) {
+  const std::size_t padding = static_cast<std::size_t>(std::max<int>(decimals, 0));
+  return static_cast<std::int16_t>(with_decimals(value, decimals, padding, useExp).size());
 }
 
 std::string label_text(double value) {

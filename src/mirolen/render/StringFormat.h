@@ -36,6 +36,9 @@ std::int16_t DecimalsFor(double value, std::int16_t maxWidth, bool& useExp);
 /// neither.
 std::string FormatField(double value, std::int16_t width, std::int16_t decimals, bool useExp);
 
+/// The width of the field that holds a value with a number of decimals uncut.
+std::int16_t FieldWidth(double value, std::int16_t decimals, bool useExp);
+
 /// A value as the text of a caption: up to seven decimals below 1, four up to 10,000, two above; in exponent
 /// form above 100,000 and below 1e-7.
 std::string label_text(double value);

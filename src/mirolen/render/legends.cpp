@@ -1,5 +1,4 @@
-#include <cmath>
-
+#include "mirolen/render/BandEnds.h"
 #include "mirolen/render/ColorScale.h"
 #include "mirolen/render/Companions.h"
 #include "mirolen/render/StringFormat.h"
@@ -9,27 +8,16 @@ namespace {
 
 constexpr int rows = 10;
 
-/// How the numbers of a legend's texts are written.
-struct FieldFormat {
-  std::int16_t width = 0;
-  std::int16_t decimals = 0;
-  bool useExp = false;
-
-  std::string operator()(double value) const {
-    return StringFormat::FormatField(value, width, decimals, useExp);
-  }
-};
-
-struct LegendFormat {
-  FieldFormat caption;
-  FieldFormat tool_tip;
+struct LegendFields {
+  NumberField caption;
+  NumberField tool_tip;
 };
 
 /// A scale below zero takes its decimals from a narrower field, but is then written in the same one.
-LegendFormat legend_format(const ScaleEnds& ends) {
+LegendFields legend_fields(const ScaleEnds& ends) {
   const bool negative = ends.low < 0;
-  FieldFormat caption{static_cast<std::int16_t>(negative ? 5 : 6)};
-  FieldFormat tool_tip{static_cast<std::int16_t>(negative ? 9 : 10)};
+  NumberField caption{static_cast<std::int16_t>(negative ? 5 : 6)};
+  NumberField tool_tip{static_cast<std::int16_t>(negative ? 9 : 10)};
   bool useExp = false;
   caption.decimals = StringFormat::DecimalsFor(ends.high, caption.width, useExp);
   tool_tip.decimals = StringFormat::DecimalsFor(ends.high, tool_tip.width, useExp);
@@ -45,10 +33,10 @@ LegendFormat legend_format(const ScaleEnds& ends) {
 }
 
 /// The text of a row; under user limits the end rows are open.
-std::string row_text(int row, bool limited, double top, double bottom, const FieldFormat& format) {
-  if (limited && row == 1) return " > " + format(bottom);
-  if (limited && row == rows) return " < " + format(top);
-  return format(top) + " - " + format(bottom);
+std::string row_text(int row, bool limited, const BandEnds& numbers) {
+  if (limited && row == 1) return " > " + numbers.lower(row);
+  if (limited && row == rows) return " < " + numbers.upper(row);
+  return numbers.upper(row) + " - " + numbers.lower(row);
 }
 
 template <class Row>
@@ -60,13 +48,11 @@ auto& at(const std::array<Row*, rows>& collection, int row) {
 
 void wafer::scale_colored(const LegendBoxes& scalCol, const LegendLabels& scallab) const {
   const ScaleEnds ends = scale_ends(*this);
-  const double step = checked((ends.high - ends.low) / rows);
-  const LegendFormat format = legend_format(ends);
+  const LegendFields fields = legend_fields(ends);
+  const BandEnds in_caption(ends, fields.caption), in_tool_tip(ends, fields.tool_tip);
   for (int i = 1; i <= rows; ++i) {
-    const double top = ends.high - (i - 1) * step;
-    const double bottom = ends.high - i * step;
-    at(scallab, i).caption(row_text(i, ends.limited, top, bottom, format.caption));
-    at(scallab, i).tool_tip(row_text(i, ends.limited, top, bottom, format.tool_tip));
+    at(scallab, i).caption(row_text(i, ends.limited, in_caption));
+    at(scallab, i).tool_tip(row_text(i, ends.limited, in_tool_tip));
     at(scalCol, i).set_color(to_color(band_color(*this, i)));
   }
 }
