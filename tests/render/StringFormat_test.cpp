@@ -248,6 +248,26 @@ TEST(FieldWidth, IsThatOfTheUncutText) {
   EXPECT_EQ(FormatField(-12345.6, 10, 3, false), "-12345.600");
 }
 
+TEST(RoundedTo, RoundsTiesAwayFromZero) {
+  EXPECT_EQ(StringFormat::rounded_to(2.5, 0), 3);
+  EXPECT_EQ(StringFormat::rounded_to(-0.125, 2), -0.13);
+  EXPECT_EQ(StringFormat::rounded_to(1234.56789, 4), 1234.5679);
+}
+
+TEST(RoundedTo, RoundsToAWholeNumberForFewerDecimalsThanNone) {
+  constexpr int lowest = std::numeric_limits<int>::min();
+  for (const int decimals : {-1, -1000, lowest}) EXPECT_EQ(StringFormat::rounded_to(15.75, decimals), 16);
+}
+
+TEST(RoundedTo, KeepsItsFifteenDigitsForMoreDecimalsThanThereAre) {
+  constexpr int highest = std::numeric_limits<int>::max();
+  for (const int decimals : {400, 1'000'000, highest}) {
+    EXPECT_EQ(StringFormat::rounded_to(15.75, decimals), 15.75);
+    EXPECT_EQ(StringFormat::rounded_to(-1.5e-300, decimals), -1.5e-300);
+    EXPECT_EQ(StringFormat::rounded_to(1e300, decimals), 1e300);
+  }
+}
+
 // ---- Captions and tool tips ----
 
 TEST(FormatLbl, ChoosesItsFormatBySize) {

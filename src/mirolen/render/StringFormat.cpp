@@ -15,6 +15,8 @@ namespace mirolen::StringFormat {
 namespace {
 
 constexpr int significant_digits = 15;
+/// No Double has a digit that is kept beyond as many places behind the separator.
+constexpr int most_decimals = 324 + significant_digits;
 
 /// A number as decimal digits: 0.d1 d2 d3 ... times 10^exponent. Zero has no digits.
 struct Decimal {
@@ -180,8 +182,8 @@ std::string format_number(double value, std::string_view format) {
 }
 
 double rounded_to(double value, int decimals) {
-  const std::string text =
-      in_pattern(value, Pattern("0." + std::string(static_cast<std::size_t>(decimals), '0')));
+  const auto places = static_cast<std::size_t>(std::clamp(decimals, 0, most_decimals));
+  const std::string text = in_pattern(value, Pattern("0." + std::string(places, '0')));
   double number = 0;
   std::from_chars(text.data(), text.data() + text.size(), number);
   return number;

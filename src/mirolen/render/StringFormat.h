@@ -15,7 +15,8 @@ namespace mirolen::StringFormat {
 /// #. "0.0#" shows 2 as "2.0". "Scientific" stands for "0.00E+00".
 std::string format_number(double value, std::string_view format);
 
-/// A value rounded to so many decimals, as its text in that format reads.
+/// A value rounded to so many decimals, as its text in that format reads; to a whole number for fewer than
+/// none.
 double rounded_to(double value, int decimals);
 
 /// Plain text of a number: up to 15 significant digits, no trailing zeros, no blank in front; with an
