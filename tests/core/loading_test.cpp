@@ -317,10 +317,17 @@ TEST_F(LoadSiteFileTest, LoadsAsManySitesAsSixteenBitsCount) {
 TEST_F(LoadSiteFileTest, RoundsItsCountHalfToEven) {
   EXPECT_EQ(load_bytes(sample, bytes_of({1, 2, 10, 20, 100, 200}), 2.5), 0);
   EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 100}, {2, 20, 200}}));
-  EXPECT_EQ(sample.GetNop(), 2.5);
+  EXPECT_EQ(sample.GetNop(), 2);
+  EXPECT_EQ(sample.mean, 150);
   EXPECT_EQ(load_bytes(sample, bytes_of({1, 2, 10, 20, 100, 200}), 1.5), 0);
-  // The room is for two, the second is surplus: it stays zero.
-  EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 100}, {}}));
+  EXPECT_EQ(sites_of(sample), (SiteList{{1, 10, 100}, {2, 20, 200}}));
+  EXPECT_EQ(sample.GetNop(), 2);
+}
+
+TEST_F(LoadSiteFileTest, LeavesAWholeNumberOfSitesBehindAFailure) {
+  EXPECT_EQ(GlobalFunctions::LoadSiteFile(false, sample, "no such file", 3.5), 4);
+  EXPECT_EQ(sample.GetNop(), 4);
+  EXPECT_EQ(sites_of(sample), SiteList(4));
 }
 
 TEST_F(LoadSiteFileTest, AnswersFourWithAnEmptyStoreForNumbersThatAreNotFinite) {

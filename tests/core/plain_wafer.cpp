@@ -286,7 +286,7 @@ int PlainWafer::LoadSiteArrays(bool keep_limits, const Array& x, const Array& y,
 int PlainWafer::LoadSiteFile(bool keep_limits, const std::string* bytes, double nops) {
   try {
     reset();
-    SetNop(nops);
+    SetNop(std::nearbyint(nops));
     if (!bytes) throw PlainFailure{};
     const std::size_t n = sites_.size();
     SiteList read(n);

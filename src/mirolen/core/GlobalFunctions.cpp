@@ -81,7 +81,7 @@ std::vector<double> read_numbers(const std::string& datafile, std::size_t count)
 void load_file(bool PlotLimitSet, wafer& wafer, const std::string& datafile, double nops) {
   const KeptLimits limits(PlotLimitSet, wafer);
   wafer.reset();
-  wafer.SetNop(nops);
+  wafer.SetNop(round_half_even(nops));
   const auto n = static_cast<std::size_t>(to_int16(nops));
   const std::vector<double> numbers = read_numbers(datafile, 3 * n);
   if (!all_finite(numbers)) {

@@ -17,9 +17,10 @@ namespace mirolen::GlobalFunctions {
 std::int16_t LoadSiteArrays(bool PlotLimitSet, wafer& wafer, const ArrayView& x, const ArrayView& y,
                             const ArrayView& Z);
 
-/// Loads nops sites from a binary file: all x, then all y, then all z, as little-endian IEEE doubles without
-/// any header. Numbers that the file does not reach, or reaches only in part, are 0; bytes beyond them are
-/// ignored. The count is not in the file: a wrong one gives a scrambled map and no error.
+/// Loads nops sites, rounded half to even, from a binary file: all x, then all y, then all z, as
+/// little-endian IEEE doubles without any header. Numbers that the file does not reach, or reaches only in
+/// part, are 0; bytes beyond them are ignored. The count is not in the file: a wrong one gives a scrambled
+/// map and no error.
 /// @param datafile path in UTF-8.
 /// @return 0 loaded; 4 any failure (no such file, nops negative or above 32,767, a number that is not
 /// finite): the store has been reset by then and keeps what had come in.
