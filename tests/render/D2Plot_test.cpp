@@ -308,7 +308,8 @@ TEST(D2Plot, KeepsTheGridBetweenEightAndTwoHundredCells) {
   EXPECT_EQ(number_of_cells(source, 25), 8 * 8);
   EXPECT_EQ(number_of_cells(source, 20), 10 * 10);
   EXPECT_EQ(number_of_cells(source, 0.5), 200 * 200);
-  EXPECT_EQ(number_of_cells(source, 0.001), 200 * 200);  // more cells than 16 bits can count
+  EXPECT_EQ(number_of_cells(source, 0.001), 200 * 200);   // more cells than 16 bits can count
+  EXPECT_EQ(number_of_cells(source, 1e-320), 200 * 200);  // or a Double
 }
 
 TEST(D2Plot, RoundsTheGridSizeHalfToEven) {

@@ -4,8 +4,10 @@
 #include <algorithm>
 
 #include "failing_canvas.h"
+#include "mirolen/render/SurfaceCanvas.h"
 #include "plain_surface.h"
 #include "sample_wafers.h"
+#include "support/NullSurface.h"
 
 namespace mirolen {
 namespace {
@@ -363,9 +365,53 @@ TEST(D3Plot, RoundsTheGridSizeHalfToEven) {
   EXPECT_EQ(number_of_cells(wafer_with(spiral(4), kNotch, 200, 176), 16, 16), 16 * 16);  // 7.5
 }
 
-TEST(D3Plot, FallsBackToTheCoarsestGridForMoreCellsThan16BitsCount) {
+TEST(D3Plot, HasAtMostAThousandCellsEachWay) {
   const wafer source = wafer_with(spiral(4));
-  EXPECT_EQ(number_of_cells(source, 0.001, 25), 12 * 12);
+  EXPECT_EQ(number_of_cells(source, 100 / 498.0, 25), 1000 * 12);
+  EXPECT_EQ(number_of_cells(source, 0.01, 25), 1000 * 12);
+  EXPECT_EQ(number_of_cells(source, 25, 0.01), 12 * 1000);
+}
+
+TEST(D3Plot, ReplacesATooFineResolutionByAThousandthOfTheTestDiameter) {
+  const wafer source = wafer_with(spiral(9));
+  SurfaceRequest told;
+  told.resx = 0.2;
+  told.phi2 = 20;
+  told.thet2 = 50;
+  const Lines expected = drawn(source, plan(), told).lines();
+  // From a little too fine to more cells than 16 bits, and more than a Double, count.
+  for (const double fine : {100 / 498.6, 0.01, 1e-3, 1e-9, 1e-320}) {
+    SurfaceRequest request = told;
+    request.resx = fine;
+    EXPECT_EQ(difference(drawn(source, plan(), request).lines(), expected), "") << fine;
+  }
+}
+
+TEST(D3Plot, KeepsAResolutionThatRoundsToAThousandCells) {
+  SurfaceRequest request;
+  request.resx = 100 / 498.25;
+  const wafer source = wafer_with(spiral(9));
+  expect_as_worked_out(source, plan(), request);
+  SurfaceRequest finer = request;
+  finer.resx = 0.2;
+  EXPECT_NE(drawn(source, plan(), request).lines(), drawn(source, plan(), finer).lines());
+}
+
+class CountingSurface : public NullSurface {
+ public:
+  using NullSurface::NullSurface;
+  int polygons = 0;
+  void polygon(const Pen&, const Brush&, std::span<const PixelPoint>) override { ++polygons; }
+};
+
+TEST(D3Plot, PaintsAMillionCellsForTheFinestResolutions) {
+  wafer source = wafer_with(spiral(20));
+  CountingSurface surface({306, 306});
+  SurfaceCanvas canvas(CanvasKind::picture_box, &surface);
+  SurfaceRequest request;
+  request.resx = request.resy = 0.01;
+  draw_surface(source, canvas, request);
+  EXPECT_EQ(surface.polygons, 1000 * 1000);
 }
 
 // ---- The canvas ----

@@ -51,6 +51,10 @@ void PlainSurface::find_grid() {
 
 double PlainSurface::half_count(double& res) {
   double n = 0;
+  if (res > 0 && w.test_diam / 2 / res + 2 > 500.5) {
+    res = w.test_diam / 1000;
+    return 500;
+  }
   statement([&] { n = rounded_to_16_bits(divided(w.test_diam / 2, res) + 2); });
   if (n >= 6) return n;
   res = w.test_diam / 8;

@@ -187,8 +187,9 @@ class wafer {
                  double height, std::int16_t ShowDispl);
   /// Draws the interpolated surface in perspective: cells of resx by resy millimetres, its height fwscal
   /// times a millimetre, the grid turned by alp2, the wafer by phi2, seen from thet2 (90: from above), in
-  /// degrees. PlotStyle 1 bands with edges, 2 wire frame, 3 white cells, 4 sigma colours of SigmaRange
-  /// deviations. Nothing is thrown. Cost: one interpolation a grid node, one polygon a cell.
+  /// degrees; at most 1,000 cells each way, of a thousandth of the test diameter then. PlotStyle 1 bands with
+  /// edges, 2 wire frame, 3 white cells, 4 sigma colours of SigmaRange deviations. Nothing is thrown. Cost:
+  /// one interpolation a grid node, one polygon a cell.
   void D3Plot(PlotCanvas& Plot, double resx, double resy, double fwscal, double alp2, double phi2,
               double thet2, std::int16_t PlotStyle, double SigmaRange, bool fprint, double left, double top,
               double width, double height, std::int16_t ShowDispl);
@@ -197,10 +198,10 @@ class wafer {
   void D2BeamPlot(PlotCanvas& Plot, double bx, double by, double fwscal, double alp2, double phi2,
                   double thet2, bool fprint, double left, double top, double width, double height,
                   std::int16_t ShowDispl);
-  /// Draws the histogram of the values in stat_resol classes, with its Gauss curve: bars, marks and curve on
-  /// Plot, ticks and texts on histPic. PlotType: base line at the bottom 1, top 2, left 3, right 4. On a page
-  /// (ShowDisp 1) lengths are twips, and come back in pixels. A failing step goes on with all lengths divided
-  /// by 4.8.
+  /// Draws the histogram of the values in stat_resol classes, with its Gauss curve: bars,
+  /// marks and curve on Plot, ticks and texts on histPic. PlotType: base line at the bottom 1, top 2, left 3,
+  /// right 4. On a page (ShowDisp 1) lengths are twips, and come back in pixels. A failing step goes on with
+  /// all lengths divided by 4.8.
   void Statistic(std::int16_t PlotType, PlotCanvas& Plot, PlotCanvas& histPic, double& x0, double& y0,
                  double& breite, double& hoehe, double stat_resol, std::int16_t& laenge, double& left,
                  double& top, std::int16_t ShowDisp);

@@ -107,8 +107,9 @@ void MapPainter::set_grid() {
   const bool whole_wafer = request_.as_color_map && request_.SigmaRange != 0;
   const double d = whole_wafer ? wafer_.WafDiam : wafer_.test_diam;
   resume([&] {
-    // More cells than a 16-bit number counts are too many all the same.
-    const double cells = divide(d / 2, request_.res);
+    if (request_.res == 0) raise_division_by_zero();
+    // More cells than a number counts are too many all the same.
+    const double cells = d / 2 / request_.res;
     n_ = cells > most_cells ? most_cells + 1 : to_int16(cells);
   });
   if (n_ < fewest_cells) {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <vector>
@@ -12,8 +13,8 @@ namespace {
 enum Style : std::int16_t { poly_edge = 1, every_edge = 2, white_cells = 3, sigma_colors = 4, bands = 5 };
 
 constexpr double margin = 6;
-constexpr std::int16_t fewest_cells = 6;  // from the centre to the edge of the grid
-constexpr double no_data = 15.0;          // marks a cell without data; no colour
+constexpr std::int16_t fewest_cells = 6, most_cells = 500;  // from the centre to the edge of the grid
+constexpr double no_data = 15.0;                            // marks a cell without data; no colour
 constexpr Color first_system_color = 0x80000000;
 
 double rotate_x(double a, double b, double c, double d) { return a * c + b * d; }
@@ -106,10 +107,18 @@ void SurfacePainter::set_sigma_range() {
 }
 
 void SurfacePainter::set_grid(double& res, std::int16_t& n) {
-  resume([&] { n = to_int16(divide(wafer_.test_diam / 2, res) + 2); });
+  resume([&] {
+    if (res == 0) raise_division_by_zero();
+    // More cells than a number counts are too many all the same.
+    n = to_int16(std::min(wafer_.test_diam / 2 / res + 2, most_cells + 1.0));
+  });
   if (n < fewest_cells) {
     n = fewest_cells;
     res = wafer_.test_diam / 8;
+  }
+  if (n > most_cells) {
+    n = most_cells;
+    res = wafer_.test_diam / 1000;
   }
 }
 
