@@ -346,6 +346,34 @@ TEST(Statistic, StartsALittleBelowEqualValues) {
   EXPECT_THAT(DrawnChart(source, wide, {}).texts_of("Print -0.001").size(), 1u);
 }
 
+TEST(Statistic, CountsInWholeClassesAlone) {
+  // Three classes of 4/3 from 0 to 4: 0, 0.5 and 1 go into the first, 2 into the second, the rest into the
+  // third.
+  ChartRequest request;
+  request.stat_resol = 3.5;
+  const double third = 100 / 3.0;
+  EXPECT_EQ(difference(DrawnChart(steps(), {}, request).bars(),
+                       {line_of("Line", 38, 0, 0, third, 60, QBColor(2)),
+                        line_of("Line", 38, third, 40, 2 * third, 60, QBColor(2)),
+                        line_of("Line", 38, 2 * third, 0, 100, 60, QBColor(2))},
+                       1e-9),
+            "");
+}
+
+TEST(Statistic, DrawsTheSameChartForEveryFractionOfAClass) {
+  for (const std::int16_t type : {1, 2, 3, 4})
+    for (ChartRequest whole : {chart_of_type(type), page_of_type(type)}) {
+      ChartRequest fraction = whole;
+      for (fraction.stat_resol += 0.25; fraction.stat_resol < whole.stat_resol + 1;
+           fraction.stat_resol += 0.25) {
+        const DrawnChart expected(wafer_with(spiral(30)), {}, whole),
+            drawn(wafer_with(spiral(30)), {}, fraction);
+        EXPECT_EQ(difference(drawn.plot.lines(), expected.plot.lines()), "") << fraction.stat_resol;
+        EXPECT_EQ(difference(drawn.own_hist.lines(), expected.own_hist.lines()), "") << fraction.stat_resol;
+      }
+    }
+}
+
 // ---- The curve ----
 
 TEST(Statistic, ScalesTheCurveToTheCountOfTheNormalLawRoundTheMean) {
@@ -395,6 +423,37 @@ TEST(Statistic, RunsMarksPastTheBaseAndNamesThemInTheirFonts) {
               testing::HasSubstr("at 68 90 in 128 font MS Sans Serif"));
   EXPECT_THAT(lying.texts_of("Print -1s").at(0), testing::HasSubstr("at 0 39 in 128 font Symbol"));
   EXPECT_THAT(lying.texts_of("Print Mean").at(0), testing::HasSubstr("at 0 24 in 128 font Arial"));
+}
+
+TEST(Statistic, NamesMarksInNewFontsWhateverFontTheCanvasHas) {
+  wafer source = steps();
+  source.mean = 2;
+  source.StdDev = 1;
+  const FontSpec of_the_host{"Arial", 14, true, true};
+  const auto texts_of_chart = [&](ChartRequest request, const std::string& start) {
+    RecordingCanvas plot, own_hist;
+    RecordingCanvas& hist = request.ShowDisp == 1 ? plot : own_hist;
+    hist.Font(of_the_host);
+    draw_chart(source, plot, hist, request);
+    Lines found;
+    for (const std::string& thing : drawn_things(hist.lines()))
+      if (thing.starts_with(start)) found.push_back(thing);
+    return found;
+  };
+  for (const std::int16_t type : {3, 4})
+    for (const ChartRequest& request : {chart_of_type(type), page_of_type(type)}) {
+      EXPECT_THAT(texts_of_chart(request, "Print 1s"), ElementsAre(testing::HasSubstr("font Symbol 8 0 0")));
+      EXPECT_THAT(texts_of_chart(request, "Print Mean"), ElementsAre(testing::HasSubstr("font Arial 8 0 0")));
+    }
+  for (const std::int16_t type : {1, 2}) {
+    EXPECT_THAT(texts_of_chart(chart_of_type(type), "Print 1s"),
+                ElementsAre(testing::HasSubstr("font MS Sans Serif 8 0 0")));
+    EXPECT_THAT(texts_of_chart(page_of_type(type), "Print 1s"),
+                ElementsAre(testing::HasSubstr("font Arial 14 1 1")));
+    for (const ChartRequest& request : {chart_of_type(type), page_of_type(type)})
+      EXPECT_THAT(texts_of_chart(request, "Print Mean"),
+                  ElementsAre(testing::HasSubstr("font MS Sans Serif 8 0 0")));
+  }
 }
 
 TEST(Statistic, BridgesTheStretchAboveTheChartWithOnePiece) {
@@ -619,7 +678,7 @@ TEST_F(StatisticOfRandomInput, MatchesThePlainComputation) {
     request.hoehe = unit * between(random, 30.0, 400.0);
     request.left = unit * between(random, 0.0, 100.0);
     request.top = unit * between(random, 0.0, 100.0);
-    request.stat_resol = between(random, 1, 40);
+    request.stat_resol = chance(random, 0.5) ? between(random, 1, 40) : between(random, 1.0, 40.0);
     expect_as_worked_out(source, canvases, request);
     if (HasFailure()) return;
   }

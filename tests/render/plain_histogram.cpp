@@ -31,7 +31,9 @@ PlainHistogram::PlainHistogram(const wafer& source, const ChartCanvases& canvase
       canvases(canvases),
       hist(request.ShowDisp == 1 ? plot : hist_of_its_own),
       page(request.ShowDisp == 1),
-      printer(canvases.setup.kind == CanvasKind::printer) {}
+      printer(canvases.setup.kind == CanvasKind::printer) {
+  r.stat_resol = std::floor(r.stat_resol);  // whole classes only
+}
 
 void PlainHistogram::statement(const std::function<void()>& body) {
   try {

@@ -198,7 +198,7 @@ class wafer {
   void D2BeamPlot(PlotCanvas& Plot, double bx, double by, double fwscal, double alp2, double phi2,
                   double thet2, bool fprint, double left, double top, double width, double height,
                   std::int16_t ShowDispl);
-  /// Draws the histogram of the values in stat_resol classes, with its Gauss curve: bars,
+  /// Draws the histogram of the values in stat_resol classes, whole ones alone, with its Gauss curve: bars,
   /// marks and curve on Plot, ticks and texts on histPic. PlotType: base line at the bottom 1, top 2, left 3,
   /// right 4. On a page (ShowDisp 1) lengths are twips, and come back in pixels. A failing step goes on with
   /// all lengths divided by 4.8.

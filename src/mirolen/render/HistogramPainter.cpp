@@ -87,7 +87,7 @@ void HistogramPainter::draw_classes() {
     }
     draw_class_ticks((b - 1) * s, s * b);
   }
-  draw_class_ticks(Int(r_.stat_resol) * s, r_.breite);
+  draw_class_ticks(r_.stat_resol * s, r_.breite);
 }
 
 void HistogramPainter::draw_curve() {

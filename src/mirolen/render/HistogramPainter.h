@@ -19,7 +19,7 @@ struct HistogramRequest {
   double& y0;
   double& breite;
   double& hoehe;
-  double stat_resol;
+  double stat_resol;  // whole classes count alone
   std::int16_t& laenge;
   double& left;
   double& top;
@@ -36,7 +36,9 @@ class HistogramPainter {
   static constexpr Color red = 0x0000FF, blue = 0xFF0000;
 
   HistogramPainter(wafer& wafer, const HistogramRequest& request, double Pi)
-      : wafer_(wafer), r_(request), Plot_(request.Plot), histPic_(request.histPic), Pi_(Pi) {}
+      : wafer_(wafer), r_(request), Plot_(request.Plot), histPic_(request.histPic), Pi_(Pi) {
+    r_.stat_resol = Int(r_.stat_resol);
+  }
   virtual ~HistogramPainter() = default;
 
   /// Puts the lengths in the units and on the axes that the chart is drawn in.

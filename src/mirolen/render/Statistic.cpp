@@ -107,7 +107,7 @@ void StandingHistogram::draw_class_ticks(double left_side, double right_side) {
 void StandingHistogram::set_mark_looks() {
   resume([&] { histPic_.CurrentY(Plot_.height() + 30); });
   resume([&] { histPic_.ForeColor(red); });
-  if (!r_.on_page) resume([&] { histPic_.Font({"MS Sans Serif", 8}); });
+  if (!r_.on_page) resume([&] { histPic_.Font({"MS Sans Serif"}); });
   resume([&] { histPic_.ForeColor(to_color(wafer_.ColS1)); });
 }
 
@@ -124,7 +124,7 @@ void StandingHistogram::draw_sigma_mark(int k) {
   if (k != 0) return write_below(px, text);
   FontSpec kept;
   resume([&] { kept = histPic_.Font(); });
-  resume([&] { histPic_.Font({"MS Sans Serif", kept.size}); });
+  resume([&] { histPic_.Font({"MS Sans Serif"}); });
   write_below(px, text);
   resume([&] { histPic_.Font(kept); });
 }

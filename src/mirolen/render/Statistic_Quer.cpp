@@ -96,10 +96,7 @@ void LyingHistogram::draw_count_axis() {
 
 void LyingHistogram::set_mark_looks() {
   resume([&] { histPic_.ForeColor(red); });
-  FontSpec symbol;
-  resume([&] { symbol = histPic_.Font(); });
-  symbol.Name = "Symbol";
-  resume([&] { histPic_.Font(symbol); });
+  resume([&] { histPic_.Font({"Symbol"}); });
   resume([&] { histPic_.ForeColor(to_color(wafer_.ColS1)); });
 }
 
@@ -112,13 +109,9 @@ void LyingHistogram::draw_sigma_mark(int k) {
   resume([&] {
     Plot_.Line(line_flags, clamped(x_of(curve(value))), y_of(py), end, y_of(py), to_color(wafer_.ColS1));
   });
-  FontSpec font;
-  resume([&] { font = histPic_.Font(); });
-  font.Name = k == 0 ? "Arial" : "Symbol";
-  resume([&] { histPic_.Font(font); });
+  if (k == 0) resume([&] { histPic_.Font({"Arial"}); });
   write_beside(py, sigma_label(k), nullptr);
-  font.Name = "Symbol";
-  resume([&] { histPic_.Font(font); });
+  resume([&] { histPic_.Font({"Symbol"}); });
 }
 
 /// On paper a mark ends at the chart's sides; on a screen the picture's edge does that.
