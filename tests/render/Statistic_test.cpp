@@ -374,6 +374,20 @@ TEST(Statistic, DrawsTheSameChartForEveryFractionOfAClass) {
     }
 }
 
+TEST(Statistic, FailsOnceForMoreSitesThanSixteenBitsCount) {
+  wafer source = wafer_with({});
+  source.SetNop(40000);
+  for (const std::int16_t type : {1, 2, 3, 4}) {
+    const DrawnChart chart(source, {}, {type, 48, 48, 480, 480, 4, 48, 96, 96, 0});
+    EXPECT_EQ(chart.r.x0, 10);
+    EXPECT_EQ(chart.r.hoehe, 100);
+    EXPECT_EQ(chart.r.laenge, 10);
+    EXPECT_EQ(chart.r.left, 20);
+    EXPECT_EQ(chart.source.maxHauf, 0);
+    EXPECT_THAT(chart.bars(), IsEmpty());
+  }
+}
+
 // ---- The curve ----
 
 TEST(Statistic, ScalesTheCurveToTheCountOfTheNormalLawRoundTheMean) {

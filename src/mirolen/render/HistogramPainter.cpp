@@ -48,10 +48,12 @@ void HistogramPainter::count() {
   if (!(wafer_.GetNop() > 3)) return;
   wafer_.GaussMax = 1;
   resume([&] { classWidth_ = class_width(); });
+  std::int16_t sites = 0;  // none where there are more than are counted: one failure, not one a site
+  resume([&] { sites = to_int16(wafer_.GetNop()); });
   Array position(1, 2);
-  for (std::int32_t i = 1; i <= wafer_.GetNop(); ++i)
+  for (std::int32_t i = 1; i <= sites; ++i)
     resume([&] {
-      const double value = wafer_.GetGridValue(to_int16(i), position);
+      const double value = wafer_.GetGridValue(static_cast<std::int16_t>(i), position);
       if (const double number = class_of(value); number != 0) ++histCount(number);
     });
   wafer_.maxHauf = counts_.size() > 1 ? *std::max_element(counts_.begin() + 1, counts_.end()) : 0;
