@@ -284,6 +284,19 @@ TEST_F(Plot2DLayout, TheLeastSizeShowsLegendAndButton) {
   EXPECT_LE(column + control.Frame1.Top + control.frleg.Top + control.frleg.Height, control.Height);
 }
 
+TEST_F(Plot2DTest, ANumberLongerThanItsFieldWidensTheColumn) {
+  place();
+  SiteColumns sites = sites_near_centre();
+  sites.z = {-12345.6, 5, 0, -100, -5000};
+  control.load(sites);
+  control.resize_to(6000, 4000);
+  const Label& longest = control.ScaleValue(10);
+  EXPECT_EQ(longest.Caption.get(), "-11110.540 - -12345.600");
+  EXPECT_GT(longest.Left + longest.Width, 1695);
+  EXPECT_EQ(control.legende.Width.get(), std::nearbyint(longest.Left + longest.Width));
+  EXPECT_GT(control.PLOTA.Width, 1000);
+}
+
 struct Size {
   double width, height;
 };

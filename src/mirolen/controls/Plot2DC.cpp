@@ -31,8 +31,8 @@ class MessagesThrough {
 }  // namespace
 
 Plot2DC::Plot2DC(Toolkit& toolkit, Container& container) : MapFrame(toolkit, container) {
-  // Room for two numbers with exponents.
-  constexpr double column = 2385, legend = 2175, inner = 1935;
+  // Room for two numbers of ten places, as "-12345.600", in the label's font.
+  constexpr double column = 2610, legend = 2400, inner = 2160;
   frmove.Width = column;
   Frame1.Move(0, 0, column, 3300);
   frleg.Move(120, 0, legend, 2760);
