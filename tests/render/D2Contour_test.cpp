@@ -184,6 +184,19 @@ TEST(D2Contour, ScalesByTheRadiusThatTheCallerGives) {
   EXPECT_EQ(marks[1], "Line 6 1220 2245 1220 2335 0");
 }
 
+TEST(D2Contour, MarksSitesOnAPageOfMorePixelsThanSixteenBitsCount) {
+  ContourRequest request;
+  request.st = 20000;  // 200 a millimetre
+  request.marked_sites = 1;
+  request.area = {0, 0, 80000, 120000};
+  request.ShowDispl = 1;
+  SiteList sites = spiral(4);
+  sites[0] = {40, -20, 60};
+  const Lines lines = drawn(wafer_with(sites), {}, request).log.of("Line");
+  EXPECT_THAT(lines, testing::Contains("Line 6 47955 64000 48045 64000 0"));
+  EXPECT_THAT(lines, testing::Contains("Line 6 48000 63955 48000 64045 0"));
+}
+
 TEST(D2Contour, ErasesAndRefreshesOnTheScreenAlone) {
   ContourRequest request;
   request.area = {0, 0, 206, 206};
