@@ -10,7 +10,7 @@
 namespace mirolen {
 namespace {
 
-constexpr double text_width = 1200;
+constexpr double interval_width = 1200;
 
 std::string interval_text(double Interval, const std::string& suffix) {
   return tr("Interval: ") + StringFormat::plain_text(Interval) + suffix;
@@ -34,7 +34,7 @@ void PrintWafer::Print_Contour(wafer& wafer, double left, double top, double wid
   DrawFlatNotchBox(xb, yb + 360, wafer.flat_ratio, 0, print::from_above);
   const double p = IntervalInPercent ? Interval : percent_of_mean(wafer, Interval);
   std::string text = interval_text(Interval, suffix_of(IntervalInPercent, MeasurementUnit));
-  DrawLeftText(text, xb, yb, text_width, 0);
+  DrawLeftText(text, xb, yb, interval_width, 0);
 
   const double t = top + target.TextHeight("0");
   const double w = width - 1215;
@@ -67,7 +67,7 @@ void PrintWafer::Print_Contour_Legend(const wafer& wafer, double left, double to
                                       bool percent, const std::string& unit) {
   if (!percent) percent_of_mean(wafer, Interval);  // not shown, but it fails where the plot would
   std::string text = interval_text(Interval, suffix_of(percent, unit));
-  DrawLeftText(text, left, top, text_width, 0);
+  DrawLeftText(text, left, top, interval_width, 0);
 }
 
 }  // namespace mirolen

@@ -9,7 +9,7 @@
 namespace mirolen {
 namespace {
 
-constexpr Color dark_blue = 0xC00000;
+constexpr Color limit_text_color = 0xC00000;
 
 /// The standing histogram: bars grow up from the bottom edge or down from the top edge.
 class StandingHistogram : public HistogramPainter {
@@ -179,7 +179,7 @@ void StandingHistogram::draw_limits() {
 }
 
 void StandingHistogram::draw_limit_pair(double low, double high) {
-  resume([&] { histPic_.ForeColor(dark_blue); });
+  resume([&] { histPic_.ForeColor(limit_text_color); });
   resume([&] { Plot_.DrawWidth(on_printer() ? 6 : 4); });
   draw_limit(low, tr("LCL"));
   draw_limit(high, tr("UCL"));

@@ -10,7 +10,7 @@
 namespace mirolen {
 namespace {
 
-constexpr Color dark_blue = 0x800000;
+constexpr Color limit_line_color = 0x800000;
 
 /// A value in a format that grows leading zeros while the text reads as zero; 0 shows the format itself.
 std::string format_scaled(double value, std::string fmt) {
@@ -164,7 +164,7 @@ void LyingHistogram::draw_limits() {
 void LyingHistogram::draw_limit(double limit, const std::string& name) {
   double py = 0;
   resume([&] { py = along_classes(limit); });
-  line(Plot_, r_.left + r_.hoehe, y_of(py), r_.left, y_of(py), dark_blue);
+  line(Plot_, r_.left + r_.hoehe, y_of(py), r_.left, y_of(py), limit_line_color);
   write_beside(py, name, "LCL");
 }
 
