@@ -2,34 +2,44 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-packages=(g++ cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-l10n-tools libgl1-mesa-dev libgtest-dev
-          libgmock-dev libbenchmark-dev nlohmann-json3-dev fonts-liberation poppler-utils locales xvfb xauth
-          clang-format python3 valgrind)
+packages_to_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-l10n-tools fonts-liberation)
+packages_to_check=(ccache libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev poppler-utils locales xvfb xauth
+                   clang-format python3 valgrind)
 
 as_root() {
   if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
 }
 
-install_packages() {
-  local missing=()
-  for package in "${packages[@]}"; do
-    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
-  done
-  if [ ${#missing[@]} -gt 0 ]; then
-    echo "Installing: ${missing[*]}"
-    as_root apt-get update -qq
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
-  fi
-  # A locale with a decimal comma, for the tests.
-  locale -a | grep -qi '^de_DE.utf' || as_root localedef -i de_DE -f UTF-8 de_DE.UTF-8
+is_installed() {
+  dpkg-query -W -f='${Status}' "$1" 2>/dev/null | grep -q 'ok installed'
 }
 
-# build PRESET [cmake options of the configure step]
+# install_packages PACKAGE...: those that are missing. An index that cannot be read may be that of something unrelated.
+install_packages() {
+  local missing=()
+  for package in "$@"; do is_installed "$package" || missing+=("$package"); done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  echo "Installing: ${missing[*]}"
+  as_root apt-get update -qq || echo "Not every package index could be read; going on with the others." >&2
+  as_root env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null || {
+    echo "These packages are needed and could not be installed: ${missing[*]}" >&2
+    return 1
+  }
+}
+
+# configure PRESET [cmake options]
+configure() {
+  local log="build-$1.log" launcher=()
+  if command -v ccache >/dev/null; then launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
+  cmake --preset "$@" "${launcher[@]}" >"$log" 2>&1 || { cat "$log"; return 1; }
+  rm -f "$log"
+}
+
+# build PRESET [targets]: with ninja's progress for who is watching.
 build() {
-  local preset=$1
+  local preset=$1 quiet=()
   shift
-  cmake --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@" >"build-$preset.log" 2>&1 ||
-    { cat "build-$preset.log"; return 1; }
-  rm -f "build-$preset.log"
-  cmake --build --preset "$preset" -- --quiet
+  [ -t 1 ] || quiet=(-- --quiet)
+  cmake --build --preset "$preset" ${1:+--target "$@"} "${quiet[@]}"
 }
