@@ -25,4 +25,9 @@ write_basic_package_version_file(MirolenViewWMConfigVersion.cmake COMPATIBILITY 
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/MirolenViewWMConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/MirolenViewWMConfigVersion.cmake
         DESTINATION ${package_dir})
-install(FILES LICENSE README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+# The documents, and what they link to.
+install(FILES LICENSE README.md CONTRIBUTING.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES bench/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR}/bench)
+install(FILES translations/mirolen_de.ts DESTINATION ${CMAKE_INSTALL_DOCDIR}/translations)
+install(DIRECTORY docs examples DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -1,12 +1,18 @@
 #!/usr/bin/env bash
-# Installs the release build into a fresh folder and builds and runs an outside project against it.
+# Installs the release build into a fresh folder, checks its documents, and builds and runs outside projects against it.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 prefix=$(mktemp -d)
 trap 'rm -rf "$prefix"' EXIT
+docs=$prefix/installed/share/doc/MirolenViewWM
+build_outside() {
+  cmake -S "$1" -B "$2" -G Ninja -DCMAKE_PREFIX_PATH="$prefix/installed" "${@:3}" >/dev/null
+  cmake --build "$2" -- --quiet
+}
+
 cmake --install build/release --prefix "$prefix/installed" >/dev/null
-cmake -S tests/consumer -B "$prefix/build" -G Ninja -DCMAKE_PREFIX_PATH="$prefix/installed" >/dev/null
-cmake --build "$prefix/build" -- --quiet
+python3 scripts/check_docs.py "$docs"
+build_outside tests/consumer "$prefix/build"
 "$prefix/build/heart_consumer"
 QT_QPA_PLATFORM=offscreen "$prefix/build/qt_consumer"
