@@ -13,6 +13,8 @@ build_outside() {
 
 cmake --install build/release --prefix "$prefix/installed" >/dev/null
 python3 scripts/check_docs.py "$docs"
-build_outside tests/consumer "$prefix/build"
+build_outside tests/consumer "$prefix/build" -DMIROLEN_DOCS="$docs"
+build_outside "$docs/examples/host" "$prefix/host"
 "$prefix/build/heart_consumer"
 QT_QPA_PLATFORM=offscreen "$prefix/build/qt_consumer"
+QT_QPA_PLATFORM=offscreen "$prefix/build/window_consumer"
