@@ -3,7 +3,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 packages_to_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-l10n-tools fonts-liberation)
-packages_to_check=(ccache libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev poppler-utils locales xvfb xauth
+packages_to_check=(ccache libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev poppler-utils locales xvfb xauth xdotool
                    clang-format python3 valgrind)
 
 as_root() {
