@@ -170,8 +170,22 @@ TEST(ReportBlocks, CutTextsToFifteenCharactersAndThenToTheirColumn) {
 }
 
 TEST(ReportBlocks, RefuseNumbersThatLeaveTheRangeOfADouble) {
-  for (const wafer& w : {values(-1.7e308, 1.7e308, 1, 1), values(1, 2, 1e-300, 1e300)})
+  for (const wafer& w : {values(-1.7e308, 1.7e308, 1, 1), values(1, 2, 1e-300, 1e300),
+                         values(1.6e308, 1.7e308, 1, 1), values(-1.7e308, -1.6e308, -1, 1)}) {
     EXPECT_EQ(printed({}, with(w), kStatistics).error, typeid(OverflowError).name());
+    expect_as_worked_out({}, with(w), kStatistics);
+  }
+}
+
+TEST(ReportBlocks, KeepWhatIsWrittenBeforeAValueThatFails) {
+  // The relative deviation is the fifth value.
+  EXPECT_THAT(texts(with(values(1, 2, 1e-300, 1e300)), kStatistics),
+              ElementsAre("Statistics ", "Mean:", "Maximum:", "Minimum:", "Std. Dev:", "Range:", "Hi/Lo Var:",
+                          "Unit:", "1.E-300", "2.0", "1.0", "1.E+300"));
+  // The sum of the extremes is needed by the last but one.
+  const Lines lines = texts(with(values(1.6e308, 1.7e308, 1, 1)), kStatistics);
+  ASSERT_EQ(lines.size(), 14u);
+  EXPECT_EQ(lines.at(13), "1.E+307") << "the range";
 }
 
 // ---- Coloured scale ----

@@ -37,6 +37,11 @@ std::int16_t whole(double number) {
   return static_cast<std::int16_t>(rounded);
 }
 
+double in_range(double number) {
+  if (std::isinf(number)) throw OverflowError("Double");
+  return number;
+}
+
 std::vector<std::string> characters_of(const std::string& text) {
   std::vector<std::string> characters;
   for (const char byte : text) {
@@ -260,17 +265,20 @@ void PlainPage::DrawWaferStatistics(const wafer& w, double left, double top) {
                 {1800, "Hi/Lo Var:"},
                 {2040, "Unit:"}},
                left + 120, top);
-  std::vector<std::pair<double, std::string>> values = {{360, FormatLbl(w.mean)},
-                                                        {600, FormatLbl(w.maxi)},
-                                                        {840, FormatLbl(w.mini)},
-                                                        {1080, FormatLbl(w.StdDev)}};
-  if (w.mean > 0) values.push_back({1320, FormatNonZero(std::abs(w.StdDev / w.mean) * 100, "0.00") + " %"});
-  values.push_back({1560, FormatLbl(w.maxi - w.mini)});
-  double v = 0;
-  if (w.mini + w.maxi != 0) v = std::abs((w.maxi - w.mini) / (w.mini + w.maxi)) * 100;
-  values.push_back({1800, FormatNonZero(v, "0.00") + " %"});
-  values.push_back({2040, first_fifteen(w.Meas_unit)});
-  write_column(values, left + 1080, top);
+  const auto write_value = [&](double row, const std::string& value) {
+    write_column({{row, value}}, left + 1080, top);
+  };
+  write_value(360, FormatLbl(w.mean));
+  write_value(600, FormatLbl(w.maxi));
+  write_value(840, FormatLbl(w.mini));
+  write_value(1080, FormatLbl(w.StdDev));
+  if (w.mean > 0)
+    write_value(1320, FormatNonZero(std::abs(in_range(w.StdDev / w.mean)) * 100, "0.00") + " %");
+  write_value(1560, FormatLbl(in_range(w.maxi - w.mini)));
+  const double sum = in_range(w.mini + w.maxi);
+  const double v = sum == 0 ? 0 : std::abs(in_range(w.maxi - w.mini) / sum) * 100;
+  write_value(1800, FormatNonZero(v, "0.00") + " %");
+  write_value(2040, first_fifteen(w.Meas_unit));
 }
 
 void PlainPage::DrawColoredLegend(const wafer& w, double left, double top, bool framed) {

@@ -114,5 +114,7 @@ std::string first_fifteen(const std::string& text);
 std::string lengthened(double value, std::string& format);
 /// @throws OverflowError outside 16 bits.
 std::int16_t whole(double number);
+/// The number itself. @throws OverflowError for an infinity.
+double in_range(double number);
 
 }  // namespace mirolen

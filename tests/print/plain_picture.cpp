@@ -106,14 +106,18 @@ void PlainPicture::DrawStatisticsBlock(int left, int top) {
                 {1800, "Hi/Lo Var:"},
                 {2040, "Unit:"}},
                left + 120, top);
-  std::vector<std::pair<int, std::string>> values = {
-      {360, number(w.mean)}, {600, number(w.maxi)}, {840, number(w.mini)}, {1080, number(w.StdDev)}};
-  if (w.mean > 0) values.push_back({1320, number(std::abs(w.StdDev / w.mean) * 100) + " %"});
-  const double sum = w.mini + w.maxi;
-  values.push_back({1560, number(w.maxi - w.mini)});
-  values.push_back({1800, number(sum == 0 ? 0 : std::abs((w.maxi - w.mini) / sum) * 100) + " %"});
-  values.push_back({2040, first_fifteen(w.Meas_unit)});
-  write_column(values, left + 1300, top);
+  const auto write_value = [&](int row, const std::string& value) {
+    write_column({{row, value}}, left + 1300, top);
+  };
+  write_value(360, number(w.mean));
+  write_value(600, number(w.maxi));
+  write_value(840, number(w.mini));
+  write_value(1080, number(w.StdDev));
+  if (w.mean > 0) write_value(1320, number(std::abs(in_range(w.StdDev / w.mean)) * 100) + " %");
+  write_value(1560, number(in_range(w.maxi - w.mini)));
+  const double sum = in_range(w.mini + w.maxi);
+  write_value(1800, number(sum == 0 ? 0 : std::abs(in_range(w.maxi - w.mini) / sum) * 100) + " %");
+  write_value(2040, first_fifteen(w.Meas_unit));
 }
 
 void PlainPicture::DrawSizeBlock(int left, int top) {
@@ -153,15 +157,16 @@ void PlainPicture::ViewFrame(const std::string& caption, int left, int top, int 
   Resetbitobj();
   p.DrawWidth(3);
   const double tw = p.TextWidth(caption), th = p.TextHeight(caption);
-  const double y1 = top + th, y2 = top + height + th;
+  const int y1 = whole(top + th), y2 = whole(top + height + th), right = whole(left + width);
+  const int gap_from = whole(left + 100), gap_to = whole(left + tw + 200);
   const Color grey = 0x404040;
-  p.Line(6, left + 100, y1, left, y1, grey);
+  p.Line(6, gap_from, y1, left, y1, grey);
   p.Line(6, left, y1, left, y2, grey);
-  p.Line(6, left, y2, left + width, y2, grey);
-  p.Line(6, left + width, y2, left + width, y1, grey);
-  p.Line(6, left + width, y1, left + tw + 200, y1, grey);
-  p.CurrentX(left + 150);
-  p.CurrentY(top + th / 2);
+  p.Line(6, left, y2, right, y2, grey);
+  p.Line(6, right, y2, right, y1, grey);
+  p.Line(6, right, y1, gap_to, y1, grey);
+  p.CurrentX(whole(left + 150));
+  p.CurrentY(whole(top + th / 2));
   p.Print(caption);
   Resetbitobj();
 }

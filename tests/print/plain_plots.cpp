@@ -179,8 +179,10 @@ void PlainPage::Print_Contour(wafer& w, double left, double top, double width, d
   double distance = Interval;
   std::string suffix = " %";
   if (!IntervalInPercent) {
-    if (w.mean == 0) throw DivisionByZero();
-    distance = Interval * 100 / w.mean;
+    double hundred = std::abs(w.mean);
+    if (hundred == 0) hundred = std::abs(w.maxi - w.mini);
+    if (hundred == 0) hundred = std::abs(w.maxi);
+    distance = hundred == 0 ? 1 : Interval * 100 / hundred;
     suffix = " " + MeasurementUnit;
   }
   interval_line(Interval, suffix, xb, yb);
@@ -223,9 +225,9 @@ void PlainPage::Print_Contour_THN(wafer& w, double left, double top, double widt
   ResetPrinterObj();
 }
 
-void PlainPage::Print_Contour_Legend(const wafer& w, double left, double top, double Interval, bool percent,
+void PlainPage::Print_Contour_Legend(const wafer&, double left, double top, double Interval, bool percent,
                                      const std::string& unit) {
-  if (!percent && w.mean == 0) throw DivisionByZero();
+  ResetPrinterObj();
   interval_line(Interval, percent ? " %" : " " + unit, left, top);
 }
 

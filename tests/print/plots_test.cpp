@@ -355,16 +355,52 @@ TEST(PrintedContours, ShowTheIntervalAsGiven) {
   EXPECT_THAT(legend(2e15), StartsWith("Print Interval: 2E+1"));
 }
 
-TEST(PrintedContours, DivideByNoMeanOfZero) {
+/// The levels of the curves by their number, for that is what a spacing gives.
+std::size_t segments(const Given& given, double percent) {
+  const auto plot = [percent](auto& page, Given& g) {
+    page.Print_Contour(g.w, g.left, g.top, g.width, g.height, percent, true, "nm", 0, 1, 1, g.caption, false);
+  };
+  return of(printed({}, given, plot), "Line").size();
+}
+
+TEST(PrintedContours, TakeTheSpreadForAMeanOfZeroAndTheSizeOfANegativeOne) {
+  struct Reference {
+    double mean, maxi, mini, hundred;
+  };
+  for (const Reference& r :
+       {Reference{-40, 1, 1, 40}, {0, 25, -25, 50}, {0, -30, -30, 30}, {40, 50, 30, 40}}) {
+    Given given = sample();
+    given.framed = false;
+    given.w.mean = r.mean;
+    given.w.maxi = r.maxi;
+    given.w.mini = r.mini;
+    given.w.range = 12345;  // the plot limits'
+    expect_as_worked_out({}, given, kAbsolute);
+    const Lines lines = of(printed({}, given, kAbsolute), "Line");
+    ASSERT_FALSE(lines.empty());
+    EXPECT_EQ(lines.size(), segments(given, 3.25 * 100 / r.hundred)) << r.mean;
+  }
+}
+
+TEST(PrintedContours, AndTheirLegendNeedNoMean) {
   Given given = sample();
   given.w.mean = 0;
-  for (const Outcome& outcome : {printed({}, given, kAbsolute), printed({}, given, kAbsoluteLegend)})
-    EXPECT_EQ(outcome.error, typeid(DivisionByZero).name());
-  expect_as_worked_out({}, given, kAbsolute);
-  expect_as_worked_out({}, given, kAbsoluteLegend);
-  EXPECT_EQ(printed({}, given, kPercent).error, "");
-  EXPECT_EQ(printed({}, given, kPercentLegend).error, "");
-  EXPECT_EQ(printed({}, given, kPercentCompact).error, "");
+  for (const Outcome& outcome : {printed({}, given, kAbsolute), printed({}, given, kAbsoluteLegend),
+                                 printed({}, given, kPercent), printed({}, given, kPercentCompact)})
+    EXPECT_EQ(outcome.error, "");
+}
+
+TEST(PrintedContours, WriteTheirLegendInTheReportState) {
+  const auto page = std::make_shared<Page>(PageSetup{});
+  PrintWafer print;
+  print.PrinterObj = page;
+  Given given = sample();
+  page->Font({"Courier", 30});
+  page->ScaleMode(pixels);
+  kPercentLegend(print, given);
+  EXPECT_EQ(page->Font(), FontSpec{});
+  EXPECT_EQ(page->ScaleMode(), twips);
+  expect_as_worked_out_everywhere(given, kPercentLegend);
 }
 
 TEST(PrintedContours, TakeAStandInForAMeanOfZeroInTheCompactForm) {

@@ -286,6 +286,36 @@ TEST_F(View, FramesThreeWide) {
   EXPECT_EQ(std::get<recorded::Line>(recording_of(picture).at(3)).pen.width, 3);
 }
 
+TEST_F(View, FramesAtWholeTwips) {
+  view.ViewFrame("Größe", 100, 200, 3000, 1500);
+  PixelPoint last;
+  for (const recorded::Call& call : recording_of(picture))
+    if (const auto* line = std::get_if<recorded::Line>(&call); line && line->pen.width == 3)
+      for (const SurfacePoint& end : {line->from, line->to}) {
+        last = {static_cast<int>(std::lround(end.x * 15)), static_cast<int>(std::lround(end.y * 15))};
+        EXPECT_NEAR(end.x * 15, last.x, 1e-9);
+        EXPECT_NEAR(end.y * 15, last.y, 1e-9);
+      }
+  EXPECT_EQ(last.x, std::lround(picture.TextWidth("Größe") + 300)) << "behind the caption";
+}
+
+TEST_F(View, RefusesAFrameBeyondSixteenBits) {
+  for (const auto& [left, width] : {std::pair<int, int>{32000, 800}, {32700, 10}, {32400, 10}})
+    EXPECT_THROW(
+        view.ViewFrame("Größe", static_cast<std::int16_t>(left), 0, static_cast<std::int16_t>(width), 9),
+        OverflowError)
+        << left;
+  EXPECT_THROW(view.ViewFrame("Größe", 0, 32767, 9, 9), OverflowError);
+}
+
+TEST_F(View, KeepsWhatIsWrittenBeforeAValueThatFails) {
+  data.mini = 1.6e308;
+  data.maxi = 1.7e308;
+  data.mean = 2;
+  expect_as_worked_out();
+  EXPECT_EQ(texts().size(), 1u + 7 + 6) << "the title, all labels, the values before the spread";
+}
+
 TEST(ViewFormatNonZero, HandsItsFormatBackLengthened) {
   std::string format = "0.00";
   EXPECT_EQ(OpenView::ViewFormatNonZero(0, format), "0.00");

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include "mirolen/core/translation.h"
 #include "mirolen/print/PrintWafer.h"
@@ -18,8 +19,11 @@ std::string interval_text(double Interval, const std::string& suffix) {
 
 std::string suffix_of(bool percent, const std::string& unit) { return percent ? " %" : " " + unit; }
 
-/// The spacing in percent of an interval in the unit. @throws DivisionByZero for a mean of 0.
-double percent_of_mean(const wafer& wafer, double Interval) { return divide(Interval * 100, wafer.mean); }
+/// The range of the values, whatever the plot limits; 0 where it has no number.
+double spread(const wafer& wafer) {
+  const double spread = wafer.maxi - wafer.mini;
+  return std::isfinite(spread) ? spread : 0;
+}
 
 }  // namespace
 
@@ -32,7 +36,7 @@ void PrintWafer::Print_Contour(wafer& wafer, double left, double top, double wid
   if (framed) DrawFrame(caption, left, top, width, height);
   const double yb = top + height - 1555, xb = left + width - 1215;
   DrawFlatNotchBox(xb, yb + 360, wafer.flat_ratio, 0, print::from_above);
-  const double p = IntervalInPercent ? Interval : percent_of_mean(wafer, Interval);
+  const double p = IntervalInPercent ? Interval : contour_interval_in_percent(wafer, spread(wafer), Interval);
   std::string text = interval_text(Interval, suffix_of(IntervalInPercent, MeasurementUnit));
   DrawLeftText(text, xb, yb, interval_width, 0);
 
@@ -63,9 +67,9 @@ void PrintWafer::Print_Contour_THN(wafer& wafer, double left, double top, double
   ResetPrinterObj();
 }
 
-void PrintWafer::Print_Contour_Legend(const wafer& wafer, double left, double top, double Interval,
-                                      bool percent, const std::string& unit) {
-  if (!percent) percent_of_mean(wafer, Interval);  // not shown, but it fails where the plot would
+void PrintWafer::Print_Contour_Legend(const wafer&, double left, double top, double Interval, bool percent,
+                                      const std::string& unit) {
+  ResetPrinterObj();
   std::string text = interval_text(Interval, suffix_of(percent, unit));
   DrawLeftText(text, left, top, interval_width, 0);
 }

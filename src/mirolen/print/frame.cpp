@@ -13,13 +13,13 @@ void draw_through(PlotCanvas& canvas, std::initializer_list<SurfacePoint> corner
 }  // namespace
 
 void draw_captioned_frame(PlotCanvas& canvas, const std::string& caption, double left, double top,
-                          double width, double height) {
+                          double width, double height, double (*place)(double)) {
   const double tw = canvas.TextWidth(caption), th = canvas.TextHeight(caption);
-  const double y1 = top + th, y2 = top + height + th, right = left + width;
-  draw_through(canvas,
-               {{left + 100, y1}, {left, y1}, {left, y2}, {right, y2}, {right, y1}, {left + tw + 200, y1}});
-  canvas.CurrentX(left + 150);
-  canvas.CurrentY(top + th / 2);
+  const double y1 = place(top + th), y2 = place(top + height + th), right = place(left + width);
+  const double gap_from = place(left + 100), gap_to = place(left + tw + 200);
+  draw_through(canvas, {{gap_from, y1}, {left, y1}, {left, y2}, {right, y2}, {right, y1}, {gap_to, y1}});
+  canvas.CurrentX(place(left + 150));
+  canvas.CurrentY(place(top + th / 2));
   canvas.Print(caption);
 }
 

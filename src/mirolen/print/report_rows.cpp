@@ -18,8 +18,8 @@ std::string percent(double value) {
 
 /// The spread by the sum of the extremes; 0 where these cancel out.
 double hi_lo(const wafer& wafer) {
-  const double sum = wafer.mini + wafer.maxi;
-  return sum == 0 ? 0 : std::abs(divide(wafer.maxi - wafer.mini, sum)) * 100;
+  const double sum = checked(wafer.mini + wafer.maxi);
+  return sum == 0 ? 0 : std::abs(divide(checked(wafer.maxi - wafer.mini), sum)) * 100;
 }
 
 std::optional<std::string> relative_deviation(const wafer& wafer) {
@@ -38,31 +38,33 @@ std::string first_15(const std::string& text) {
 }
 
 ReportRows statistics_rows(const wafer& wafer, const NumberText& number) {
-  return {{360, tr("Mean:"), number(wafer.mean)},
-          {600, tr("Maximum:"), number(wafer.maxi)},
-          {840, tr("Minimum:"), number(wafer.mini)},
-          {1080, tr("Std. Dev:"), number(wafer.StdDev)},
-          {1320, std::nullopt, relative_deviation(wafer)},
-          {1560, tr("Range:"), number(checked(wafer.maxi - wafer.mini))},
-          {1800, tr("Hi/Lo Var:"), percent(hi_lo(wafer))},
-          {2040, tr("Unit:"), first_15(wafer.Meas_unit)}};
+  const auto is = [number](const double& value) { return [number, &value] { return number(value); }; };
+  return {{360, tr("Mean:"), is(wafer.mean)},
+          {600, tr("Maximum:"), is(wafer.maxi)},
+          {840, tr("Minimum:"), is(wafer.mini)},
+          {1080, tr("Std. Dev:"), is(wafer.StdDev)},
+          {1320, std::nullopt, [&wafer] { return relative_deviation(wafer); }},
+          {1560, tr("Range:"), [&wafer, number] { return number(checked(wafer.maxi - wafer.mini)); }},
+          {1800, tr("Hi/Lo Var:"), [&wafer] { return percent(hi_lo(wafer)); }},
+          {2040, tr("Unit:"), [&wafer] { return first_15(wafer.Meas_unit); }}};
 }
 
 ReportRows size_rows(const wafer& wafer, const NumberText& diameter) {
-  return {{360, tr("Wafer Diam:"), diameter(wafer.WafDiam) + " mm"},
-          {600, tr("Test Diam:"), diameter(wafer.test_diam) + " mm"},
-          {840, tr("No. Sites:"), StringFormat::plain_text(wafer.GetNop())},
-          {1080, tr("Style:"), wafer.flat_ratio == notch ? tr("Notch") : tr("Flat")}};
+  return {{360, tr("Wafer Diam:"), [&wafer, diameter] { return diameter(wafer.WafDiam) + " mm"; }},
+          {600, tr("Test Diam:"), [&wafer, diameter] { return diameter(wafer.test_diam) + " mm"; }},
+          {840, tr("No. Sites:"), [&wafer] { return StringFormat::plain_text(wafer.GetNop()); }},
+          {1080, tr("Style:"), [&wafer] { return wafer.flat_ratio == notch ? tr("Notch") : tr("Flat"); }}};
 }
 
 ReportRows remarks_rows(const wafer& wafer) {
-  return {{360, tr("Operator ID:"), first_15(wafer.Operator)},
-          {600, tr("FAB Name:"), first_15(wafer.FAB)},
-          {840, tr("Equip Info:"), first_15(wafer.equip)},
-          {1080, tr("Wafer ID:"), first_15(wafer.wafer)},
-          {1320, tr("Lot:"), first_15(wafer.lot)},
-          {1560, tr("Meas. Equip:"), first_15(wafer.meq)},
-          {1800, tr("Special:"), first_15(wafer.Special)}};
+  const auto is = [](const std::string& text) { return [&text] { return first_15(text); }; };
+  return {{360, tr("Operator ID:"), is(wafer.Operator)},
+          {600, tr("FAB Name:"), is(wafer.FAB)},
+          {840, tr("Equip Info:"), is(wafer.equip)},
+          {1080, tr("Wafer ID:"), is(wafer.wafer)},
+          {1320, tr("Lot:"), is(wafer.lot)},
+          {1560, tr("Meas. Equip:"), is(wafer.meq)},
+          {1800, tr("Special:"), is(wafer.Special)}};
 }
 
 }  // namespace mirolen::print

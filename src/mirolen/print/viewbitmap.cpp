@@ -106,7 +106,7 @@ void viewbitmap::DrawSizeBlock(std::int16_t left, std::int16_t top) {
 
 void viewbitmap::DrawRemarksBlock(std::int16_t left, std::int16_t top) {
   print::ReportRows rows = print::remarks_rows(data());
-  rows.push_back({2040, tr("Filename:"), print::first_15(data().filename)});
+  rows.push_back({2040, tr("Filename:"), [&wafer = data()] { return print::first_15(wafer.filename); }});
   write_block(tr("Wafer Remarks "), left, top, rows);
 }
 
@@ -124,7 +124,8 @@ void viewbitmap::ViewFrame(const std::string& caption, std::int16_t left, std::i
   Resetbitobj();
   picture().ScaleMode(twips);
   picture().DrawWidth(3);
-  print::draw_captioned_frame(picture(), caption, left, top, width, height);
+  const auto whole = [](double place) -> double { return to_int16(place); };
+  print::draw_captioned_frame(picture(), caption, left, top, width, height, whole);
   Resetbitobj();
 }
 
