@@ -2,7 +2,9 @@
 
 #include <QBuffer>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPdfWriter>
+#include <QRegularExpression>
 #include <QSvgGenerator>
 #include <QTemporaryDir>
 #include <random>
@@ -253,25 +255,75 @@ TEST(PageSurface, AMapMakesASmallFile) {
   EXPECT_GT(plain, 5 * merged);
 }
 
-/// How many shapes a file has that shows a row of red and blue cells in turn, five of them.
-template <class Page>
-qsizetype shapes_of_a_row() {
+/// What a page writes of a drawing, at the resolution of a file.
+template <class Page, class Draw>
+QByteArray svg_of(Draw draw) {
   QBuffer file;
   file.open(QIODevice::WriteOnly);
   QSvgGenerator generator;
   generator.setOutputDevice(&file);
+  generator.setResolution(qt::PrintJob::resolution);
   QPainter painter(&generator);
   Page page(painter, generator);
-  for (const int place : {0, 1, 2, 3, 4})
-    page.polygon(no_pen, place % 2 ? blue_brush : red_brush, box(10 * place, 0, 10 * place + 10, 10));
+  draw(page);
   page.end_page();
   painter.end();
-  return file.data().count("<path") + file.data().count("<rect");
+  return file.data();
 }
 
-TEST(PageSurface, AColorThatComesAgainInARowIsOneBox) {
-  EXPECT_EQ(shapes_of_a_row<PlainPage>() - shapes_of_a_row<PageSurface>(), 2) << "the red ones, but for one";
+void draw_chess_board(Surface& page) {
+  for (int row = 0; row < 8; ++row)
+    for (int column = 8; column-- > 0;) {
+      const int x = 100 * column, y = 100 * row;
+      page.polygon(no_pen, (row + column) % 2 ? blue_brush : red_brush, box(x, y, x + 100, y + 100));
+    }
 }
+
+TEST(PageSurface, EachColorOfAMapIsOneShape) {
+  const auto shapes = [](const QByteArray& svg) { return svg.count("<path") + svg.count("<rect"); };
+  EXPECT_EQ(shapes(svg_of<PlainPage>(draw_chess_board)), 64);
+  EXPECT_EQ(shapes(svg_of<PageSurface>(draw_chess_board)), 2);
+}
+
+/// The area of the boxes that a path has, by the odd-even rule, as two shapes of a map have it.
+double area(const QPainterPath& path) {
+  double twice = 0;
+  for (const QPolygonF& loop : path.simplified().toFillPolygons())
+    for (qsizetype i = 0; i + 1 < loop.size(); ++i)
+      twice += loop[i].x() * loop[i + 1].y() - loop[i + 1].x() * loop[i].y();
+  return std::abs(twice) / 2;
+}
+
+/// The outlines in a file, in their order.
+std::vector<QPainterPath> paths_in(const QByteArray& svg) {
+  std::vector<QPainterPath> paths;
+  static const QRegularExpression data(" d=\"([^\"]*)\""), place("([ML])(-?[\\d.]+),(-?[\\d.]+)");
+  for (auto path = data.globalMatch(QString::fromUtf8(svg)); path.hasNext();) {
+    QPainterPath& outline = paths.emplace_back();
+    for (auto corner = place.globalMatch(path.next().captured(1)); corner.hasNext();) {
+      const auto match = corner.next();
+      const QPointF at(match.captured(2).toDouble(), match.captured(3).toDouble());
+      match.captured(1) == "M" ? outline.moveTo(at) : outline.lineTo(at);
+    }
+  }
+  return paths;
+}
+
+TEST(PageSurface, ColorsOfAMapLieOnEachOtherOnlyByAHair) {
+  // A pixel of a viewer of 72 dots an inch, rounded up.
+  constexpr int hair = 9;
+  const auto shapes = paths_in(svg_of<PageSurface>([](Surface& page) {
+    page.polygon(no_pen, blue_brush, box(500, 0, 1000, 300));
+    page.polygon(no_pen, red_brush, box(0, 0, 500, 300));
+    page.polygon(no_pen, red_brush, box(0, 300, 1000, 600));
+  }));
+  ASSERT_EQ(shapes.size(), 2u);
+  EXPECT_EQ(area(shapes[0]) + area(shapes[1]), 1000 * 600 + hair * (500 + 300) - hair * hair);
+  EXPECT_EQ(std::min(area(shapes[0]), area(shapes[1])), 500 * 300) << "the last one";
+  EXPECT_EQ(shapes[0].boundingRect() | shapes[1].boundingRect(), QRectF(0, 0, 1000, 600));
+}
+
+// ---- Seams ----
 
 /// The largest amount of green, which red and blue have none of, between the cells of a chess board.
 template <class Page>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <map>
 
 #include "mirolen/qt/painting.h"
 
@@ -8,15 +9,15 @@ class QPainter;
 
 namespace mirolen::qt {
 
-/// Paints the cells of a map, which come row by row, with few boxes: those of a row in one colour as one,
-/// with those of other colours that lie between on top of it.
+/// Paints the cells of a map, which come row by row, as one shape for each colour.
 ///
-/// The pixels are those of one box a cell. A viewer that smooths edges would show the background through
-/// every seam of two boxes, so the one that is painted first reaches under the other.
-class CellRows {
+/// The pixels are those of one box a cell. A viewer that smooths edges mixes the colours along them, so the
+/// shapes do not lie on each other: no colour comes through within another. Only at a border one of the two
+/// reaches under the other one, no further than needed to keep the background from showing through.
+class CellMap {
  public:
   /// The painter stays the caller's.
-  explicit CellRows(QPainter& painter) : painter_(painter) {}
+  explicit CellMap(QPainter& painter) : painter_(painter) {}
 
   /// Paints a cell, now or later; it may lie anywhere.
   void add(const Cell& cell);
@@ -27,13 +28,14 @@ class CellRows {
   /// Cells of one height side by side, apart or touching, from left to right.
   using Row = std::deque<Cell>;
 
-  /// Whether the cell belongs to the present row, which then has it.
-  bool extend_row(const Cell& cell);
-  void paint(const Row& row, const Row& following);
-  void fill(const UprightBox& box);
+  /// @return false for a cell that may lie on one of those kept back.
+  bool keep(const Cell& cell);
+  /// The row of a box, perhaps a new one; null for one that lies across a row.
+  Row* row_of(const UprightBox& box);
 
   QPainter& painter_;
-  Row before_, row_;  // kept back: the present row and the one it touches, of which nothing is painted
+  std::map<std::int32_t, Row> rows_;  // kept back, by their tops; no row lies on another
+  Row* present_ = nullptr;            // that of the last cell
 };
 
 }  // namespace mirolen::qt

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mirolen/qt/CellRows.h"
+#include "mirolen/qt/CellMap.h"
 #include "mirolen/render/Surface.h"
 
 class QPaintDevice;
@@ -11,7 +11,7 @@ namespace mirolen::qt {
 /// A Surface of vectors and text: a page of a printer, of a PDF or an SVG file. Nothing on it is made of
 /// pixels; sizes and widths count in those of the device.
 ///
-/// Boxes without an outline, as the cells of a map are, are painted as CellRows does. What a page cannot do,
+/// Boxes without an outline, as the cells of a map are, are painted as CellMap does. What a page cannot do,
 /// filling up to a boundary and giving its picture, throws CanvasError.
 class PageSurface : public Surface {
  public:
@@ -44,7 +44,7 @@ class PageSurface : public Surface {
 
   QPainter& painter_;
   const QPaintDevice& device_;
-  CellRows cells_;
+  CellMap cells_;
 };
 
 }  // namespace mirolen::qt
