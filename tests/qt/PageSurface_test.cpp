@@ -323,6 +323,52 @@ TEST(PageSurface, ColorsOfAMapLieOnEachOtherOnlyByAHair) {
   EXPECT_EQ(shapes[0].boundingRect() | shapes[1].boundingRect(), QRectF(0, 0, 1000, 600));
 }
 
+// ---- Pens ----
+
+/// The widths of the pens that a drawing is given in a file of 600 dots an inch, in points.
+template <class Draw>
+double pen_width(Draw draw) {
+  static const QRegularExpression width("stroke=\"#[^\"]*\"[^>]*stroke-width=\"([\\d.]+)\"");
+  const QRegularExpressionMatch found = width.match(QString::fromUtf8(svg_of<PageSurface>(draw)));
+  EXPECT_TRUE(found.hasMatch());
+  return found.captured(1).toDouble() * 72 / qt::PrintJob::resolution;
+}
+
+TEST(PageSurface, DrawsLinesHalfAPointWideForEachOfTheirPixels) {
+  for (const std::int16_t width : {1, 2, 4, 40}) {
+    const Pen pen{red, width};
+    const double points = 0.5 * width;
+    EXPECT_NEAR(pen_width([&](Surface& page) { page.line(pen, {0, 0}, {90, 50}); }), points, 1e-3);
+    EXPECT_NEAR(pen_width([&](Surface& page) { page.arc(pen, {50, 50}, {40, 20}, 0, 2); }), points, 1e-3);
+    EXPECT_NEAR(pen_width([&](Surface& page) {
+                  page.ellipse(pen, blue_brush, {50, 50}, {40, 20});
+                }),
+                points, 1e-3);
+    EXPECT_NEAR(pen_width([&](Surface& page) {
+                  page.rectangle(pen, Brush{0, false}, {{5, 5}, {50, 50}});
+                }),
+                points, 1e-3);
+  }
+}
+
+TEST(PageSurface, OutlinesAPolygonThinButNotTooThin) {
+  const auto outline = [](std::int16_t width) {
+    return pen_width([&](Surface& page) { page.polygon(Pen{red, width}, blue_brush, box(5, 5, 90, 90)); });
+  };
+  EXPECT_NEAR(outline(1), 0.15, 1e-3);
+  EXPECT_NEAR(outline(2), 2 * 0.12, 1e-3) << "pixels of 600 dots an inch";
+  EXPECT_NEAR(outline(10), 10 * 0.12, 1e-3);
+}
+
+TEST(PageSurface, KeepsTheWidthWhereAPixelIsWideEnough) {
+  const QImage image = picture<PageSurface>([](PageSurface& page) {
+    page.line(Pen{green, 3}, {10, 30}, {40, 30});
+    page.line(Pen{green, 1}, {10, 50}, {40, 50});
+  });
+  for (const int y : {29, 30, 31, 50}) EXPECT_EQ(pixel(image, 20, y), green);
+  for (const int y : {28, 32, 49, 51}) EXPECT_EQ(pixel(image, 20, y), white);
+}
+
 // ---- Seams ----
 
 /// The largest amount of green, which red and blue have none of, between the cells of a chess board.

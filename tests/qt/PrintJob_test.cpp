@@ -160,7 +160,7 @@ TEST_F(PrintJobTest, TheRowsOfABlockStandInTheirPlaces) {
   EXPECT_NEAR(word_in(pdf_path(), "Style:").box.height(), 8 * 1.15, 1);
 }
 
-TEST_F(PrintJobTest, LinesAreAsWideAsTheirPixels) {
+TEST_F(PrintJobTest, LinesAreHalfAPointWideForEachOfTheirPixels) {
   const auto job = pdf(a6());
   const std::vector<std::int16_t> widths{1, 2, 4, 10, 40};
   for (std::size_t i = 0; i < widths.size(); ++i) {
@@ -174,8 +174,8 @@ TEST_F(PrintJobTest, LinesAreAsWideAsTheirPixels) {
   for (std::size_t i = 0; i < widths.size(); ++i) {
     const double place = at(1000 + 600 * static_cast<double>(i));
     const auto rows =
-        dark_pixels(sheet, {column, static_cast<int>(place - 60)}, {column, static_cast<int>(place + 60)});
-    EXPECT_NEAR(static_cast<double>(rows.size()), widths[i], 1) << widths[i];
+        dark_pixels(sheet, {column, static_cast<int>(place - 120)}, {column, static_cast<int>(place + 120)});
+    EXPECT_NEAR(static_cast<double>(rows.size()), 0.5 * widths[i] / 72 * 600, 1) << widths[i];
     ASSERT_FALSE(rows.empty());
     EXPECT_NEAR((rows.front() + rows.back()) / 2., place, 1.5) << widths[i];
   }
@@ -194,12 +194,14 @@ TEST_F(PrintJobTest, AFrameRunsWhereItIsToldTo) {
   const int row = static_cast<int>(at(top + line + 60)), column = static_cast<int>(at(left + width - 60));
   const auto columns = dark_pixels(sheet, {0, row}, {sheet.width(), row});
   const auto rows = dark_pixels(sheet, {column, 0}, {column, sheet.height()});
-  ASSERT_EQ(columns.size(), 4u) << "two lines, two pixels wide";
-  ASSERT_EQ(rows.size(), 4u);
-  EXPECT_NEAR(columns[0], at(left), 2);
-  EXPECT_NEAR(columns[3], at(left + width), 2);
-  EXPECT_NEAR(rows[0], at(top + line), 2);
-  EXPECT_NEAR(rows[3], at(top + height + line), 2);
+  // Two lines, two pixels and so a point wide each.
+  const double half = 600 / 72. / 2;
+  ASSERT_NEAR(static_cast<double>(columns.size()), 4 * half, 2);
+  ASSERT_NEAR(static_cast<double>(rows.size()), 4 * half, 2);
+  EXPECT_NEAR(columns.front() + half, at(left), 2);
+  EXPECT_NEAR(columns.back() - half, at(left + width), 2);
+  EXPECT_NEAR(rows.front() + half, at(top + line), 2);
+  EXPECT_NEAR(rows.back() - half, at(top + height + line), 2);
   EXPECT_EQ(pixel(sheet, columns[0], row), 0x404040u);
 }
 
@@ -256,7 +258,9 @@ TEST_F(PrintJobTest, PagesFollowEachOther) {
   for (const int page : {1, 2}) {
     const QImage sheet = hard_image(pdf_path(), 600, page);
     const int column = static_cast<int>(SheetScale{600}(2500));
-    EXPECT_EQ(dark_pixels(sheet, {column, 2600}, {column, 2900}).size(), 20u) << page;
+    EXPECT_NEAR(static_cast<double>(dark_pixels(sheet, {column, 2600}, {column, 2900}).size()),
+                10 / 72. * 600, 1)
+        << page;
   }
 }
 

@@ -9,7 +9,10 @@
 namespace mirolen::qt {
 namespace {
 
-constexpr double twips_per_inch = 1440;
+constexpr double twips_per_inch = 1440, points_per_inch = 72;
+
+// In points: of each pixel of a line's width, and of a whole outline.
+constexpr double least_line = 0.5, least_outline = 0.15;
 
 QPointF centre_of(SurfacePoint pixel) { return {in_reach(pixel.x + 0.5), in_reach(pixel.y + 0.5)}; }
 
@@ -37,33 +40,43 @@ QPainter& PageSurface::painter() {
   return painter_;
 }
 
+double PageSurface::pixels_per_point() const { return device_.logicalDpiX() / points_per_inch; }
+
+QPen PageSurface::line_pen(const Pen& pen) const {
+  return qpen(pen, std::max(1., least_line * pixels_per_point()));
+}
+
+QPen PageSurface::outline_pen(const Pen& pen) const {
+  return qpen(pen, std::max(1., least_outline * pixels_per_point() / pen.width));
+}
+
 void PageSurface::clear(Color color) {
   painter().fillRect(QRectF(0, 0, size().width, size().height), qcolor_of(color));
 }
 
 void PageSurface::line(const Pen& pen, SurfacePoint from, SurfacePoint to) {
   if (!is_drawn(pen)) return;
-  painter().setPen(qpen(pen));
+  painter().setPen(line_pen(pen));
   painter_.drawLine(centre_of(from), centre_of(to));
 }
 
 void PageSurface::rectangle(const Pen& pen, const Brush& brush, const SurfaceBox& box) {
   if (brush.solid) painter().fillRect(area_of(box), qcolor_of(brush.color));
   if (!is_drawn(pen)) return;
-  painter().setPen(qpen(pen));
+  painter().setPen(line_pen(pen));
   painter_.setBrush(Qt::NoBrush);
   painter_.drawRect(QRectF(centre_of(box.from), centre_of(box.to)).normalized());
 }
 
 void PageSurface::ellipse(const Pen& pen, const Brush& brush, SurfacePoint centre, SurfaceSize radii) {
-  painter().setPen(qpen(pen));
+  painter().setPen(line_pen(pen));
   painter_.setBrush(qbrush(brush));
   painter_.drawEllipse(centre_of(centre), in_reach(radii.width), in_reach(radii.height));
 }
 
 void PageSurface::arc(const Pen& pen, SurfacePoint centre, SurfaceSize radii, double start, double end) {
   const QPointF middle = centre_of(centre), reach(in_reach(radii.width), in_reach(radii.height));
-  painter().strokePath(arc_path(QRectF(middle - reach, middle + reach), start, end), qpen(pen));
+  painter().strokePath(arc_path(QRectF(middle - reach, middle + reach), start, end), line_pen(pen));
 }
 
 void PageSurface::polygon(const Pen& pen, const Brush& brush, std::span<const PixelPoint> points) {
@@ -75,7 +88,7 @@ void PageSurface::polygon(const Pen& pen, const Brush& brush, std::span<const Pi
   const double to_centre = is_drawn(pen) ? 0.5 : 0;
   QPolygonF corners;
   for (const auto& [x, y] : points) corners << QPointF(in_reach(x + to_centre), in_reach(y + to_centre));
-  painter().setPen(qpen(pen));
+  painter().setPen(outline_pen(pen));
   painter_.setBrush(qbrush(brush));
   painter_.drawPolygon(corners);
 }

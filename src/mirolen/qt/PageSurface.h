@@ -9,7 +9,9 @@ class QPainter;
 namespace mirolen::qt {
 
 /// A Surface of vectors and text: a page of a printer, of a PDF or an SVG file. Nothing on it is made of
-/// pixels; sizes and widths count in those of the device.
+/// pixels; sizes and widths count in those of the device. Only a pen that would be too thin to be seen is
+/// made wider: a line, a circle or a curve has 0.5 pt at least for each pixel of its width, the outline of a
+/// polygon, of which there may be thousands side by side, 0.15 pt in all.
 ///
 /// Boxes without an outline, as the cells of a map are, are painted as CellMap does. What a page cannot do,
 /// filling up to a boundary and giving its picture, throws CanvasError.
@@ -41,6 +43,9 @@ class PageSurface : public Surface {
  private:
   /// The painter, for anything else than cells.
   QPainter& painter();
+  QPen line_pen(const Pen& pen) const;
+  QPen outline_pen(const Pen& pen) const;
+  double pixels_per_point() const;
 
   QPainter& painter_;
   const QPaintDevice& device_;
