@@ -12,10 +12,6 @@
         <translation> und weniger als </translation>
     </message>
     <message>
-        <source> is a directory</source>
-        <translation> ist ein Verzeichnis</translation>
-    </message>
-    <message>
         <source> must be finite</source>
         <translation> muss endlich sein</translation>
     </message>
@@ -652,6 +648,14 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
     <message>
         <source>no settings, %1 at byte %2</source>
         <translation>keine Einstellungen, %1 bei Byte %2</translation>
+    </message>
+    <message>
+        <source>no settings, the file is too large</source>
+        <translation>keine Einstellungen, die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>not valid</source>

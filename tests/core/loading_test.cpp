@@ -6,6 +6,7 @@
 
 #include "mirolen/core/GlobalFunctions.h"
 #include "mirolen/core/wafer.h"
+#include "support/SpecialFiles.h"
 #include "support/site_support.h"
 
 namespace mirolen {
@@ -275,6 +276,21 @@ TEST_F(LoadSiteFileTest, AnswersFourForWhatIsNoFile) {
   const TemporaryFile folder;
   std::filesystem::create_directory(folder.path());
   EXPECT_EQ(LoadSiteFile(kNoLimit, sample, folder.name(), 3), 4);
+}
+
+TEST_F(LoadSiteFileTest, ReadsNothingButRegularFiles) {
+  const TemporaryFile folder, bytes(file_bytes(kThree));
+  std::filesystem::create_directory(folder.path());
+  const SpecialFiles specials(folder.name());
+  ASSERT_GE(specials.paths().size(), 6u);
+  for (const std::string& special : specials.paths())
+    EXPECT_EQ(LoadSiteFile(kNoLimit, sample, special, 3), 4) << special;
+  EXPECT_TRUE(specials.stand());
+
+  const std::string link = folder.name() + "/link";
+  std::filesystem::create_symlink(bytes.path(), link);
+  EXPECT_EQ(LoadSiteFile(kNoLimit, sample, link, 3), 0);
+  EXPECT_EQ(sites_of(sample), kThree);
 }
 
 TEST_F(LoadSiteFileTest, OpensNamesOutsideAscii) {

@@ -5,12 +5,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <cmath>
+#include <filesystem>
 #include <limits>
 
 #include "mirolen/controls/descriptions.h"
 #include "mirolen/qt/Picture.h"
 #include "qt/qt_support.h"
+#include "support/SpecialFiles.h"
 
 namespace mirolen {
 namespace {
@@ -117,6 +120,47 @@ TEST_F(SettingsFile, TellsWhenItCannotBeWritten) {
                 bag.save();
               }),
               testing::HasSubstr("map.json: "));
+}
+
+TEST_F(SettingsFile, IsARegularFile) {
+  const SpecialFiles specials(directory_.path().toStdString());
+  ASSERT_GE(specials.paths().size(), 6u);
+  const SettingsBag bag(path_);
+  for (const std::string& special : specials.paths()) {
+    const QString path = QString::fromStdString(special);
+    EXPECT_EQ(error_of([&] { SettingsBag other(path); }), special + ": not a regular file");
+  }
+  EXPECT_TRUE(specials.stand());
+}
+
+TEST_F(SettingsFile, ReplacesNothingElse) {
+  SettingsBag bag(path_);
+  bag.write("key", 3.5, {});
+  ASSERT_EQ(mkfifo(path_.toStdString().c_str(), 0600), 0);
+  EXPECT_EQ(error_of([&] { bag.save(); }), path_.toStdString() + ": not a regular file");
+  EXPECT_FALSE(std::filesystem::is_regular_file(path_.toStdString()));
+}
+
+TEST_F(SettingsFile, MayBeALinkThatStays) {
+  const QString link = directory_.filePath("link.json");
+  for (const bool exists : {false, true}) {
+    if (!exists) {
+      ASSERT_TRUE(QFile::link(path_, link));
+    }
+    SettingsBag bag(link);
+    bag.write("key", exists ? 2.5 : 1.5, {});
+    bag.save();
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(SettingsBag(path_).read("key", 0.0), Variant(exists ? 2.5 : 1.5));
+  }
+}
+
+TEST_F(SettingsFile, IsNotReadBeyondAllMeasure) {
+  fill("{}");
+  QFile file(path_);
+  ASSERT_TRUE(file.resize((qint64{64} << 20) + 1));  // a hole takes no room
+  EXPECT_EQ(error_of([&] { SettingsBag bag(path_); }),
+            path_.toStdString() + ": no settings, the file is too large");
 }
 
 TEST_F(SettingsFile, CarriesTheSettingsOfOneControlToAnother) {

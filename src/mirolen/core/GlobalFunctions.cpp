@@ -61,7 +61,9 @@ Numbers first_elements(const ArrayView& array, std::int32_t n) {
 std::vector<double> read_numbers(const std::string& datafile, std::size_t count) {
   const std::filesystem::path path(std::u8string(datafile.begin(), datafile.end()));
   std::error_code unknown;
-  if (std::filesystem::is_directory(path, unknown)) throw FileError(datafile + tr(" is a directory"));
+  // A pipe would keep the reader waiting, and so would some devices.
+  if (std::filesystem::exists(path, unknown) && !std::filesystem::is_regular_file(path, unknown))
+    throw FileError(datafile + ": " + tr("not a regular file"));
   std::ifstream file;
   file.rdbuf()->pubsetbuf(nullptr, 0);
   file.open(path, std::ios::binary);

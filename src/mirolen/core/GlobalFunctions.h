@@ -22,8 +22,8 @@ std::int16_t LoadSiteArrays(bool PlotLimitSet, wafer& wafer, const ArrayView& x,
 /// part, are 0; bytes beyond them are ignored. The count is not in the file: a wrong one gives a scrambled
 /// map and no error.
 /// @param datafile path in UTF-8.
-/// @return 0 loaded; 4 any failure (no such file, nops negative or above 32,767, a number that is not
-/// finite): the store has been reset by then and keeps what had come in.
+/// @return 0 loaded; 4 any failure (no such file, a device or a pipe, nops negative or above 32,767, a number
+/// that is not finite): the store has been reset by then and keeps what had come in.
 std::int16_t LoadSiteFile(bool PlotLimitSet, wafer& wafer, const std::string& datafile, double nops);
 
 /// Sets the plot limits to LPL and UPL and returns true; false, changing nothing, unless LPL is below UPL.

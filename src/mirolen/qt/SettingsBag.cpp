@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonDocument>
 #include <QSaveFile>
 #include <charconv>
@@ -9,6 +10,7 @@
 
 #include "mirolen/core/translation.h"
 #include "mirolen/qt/Picture.h"
+#include "mirolen/qt/file_errors.h"
 #include "mirolen/qt/translate.h"
 
 namespace mirolen::qt {
@@ -20,9 +22,8 @@ using automation::Variant;
 
 constexpr QLatin1StringView type_key("type"), value_key("value");
 
-[[noreturn]] void fail(const QString& file, const QString& reason) {
-  throw FileError(QStringLiteral("%1: %2").arg(file, reason).toStdString());
-}
+/// Of a settings file; far more than a control with a picture needs.
+constexpr qint64 most_bytes = 64 << 20;
 
 /// The shortest digits that read back as the very same number: JSON's own have no NaN and no negative zero.
 QString digits_of(double number) {
@@ -103,15 +104,18 @@ std::optional<Variant> variant_in(const QJsonObject& entry) {
 }  // namespace
 
 SettingsBag::SettingsBag(QString file) : file_(std::move(file)) {
+  refuse_special_file(file_);
+  if (!QFileInfo::exists(file_)) return;
   QFile stored(file_);
-  if (!stored.exists()) return;
-  if (!stored.open(QIODevice::ReadOnly)) fail(file_, stored.errorString());
+  if (!stored.open(QIODevice::ReadOnly)) raise_file_error(file_, stored.errorString());
+  if (stored.size() > most_bytes)
+    raise_file_error(file_, text_of(mirolen::tr("no settings, the file is too large")));
   QJsonParseError error;
   const QJsonDocument document = QJsonDocument::fromJson(stored.readAll(), &error);
   if (error.error != QJsonParseError::NoError)
-    fail(file_,
-         text_of(mirolen::tr("no settings, %1 at byte %2")).arg(error.errorString()).arg(error.offset));
-  if (!document.isObject()) fail(file_, text_of(mirolen::tr("no settings")));
+    raise_file_error(
+        file_, text_of(mirolen::tr("no settings, %1 at byte %2")).arg(error.errorString()).arg(error.offset));
+  if (!document.isObject()) raise_file_error(file_, text_of(mirolen::tr("no settings")));
   values_ = document.object();
 }
 
@@ -125,10 +129,11 @@ void SettingsBag::write(const std::string& key, const Variant& value, const Vari
 }
 
 void SettingsBag::save() const {
+  refuse_special_file(file_);
   QSaveFile file(file_);
   const QByteArray json = QJsonDocument(values_).toJson();
   if (!file.open(QIODevice::WriteOnly) || file.write(json) != json.size() || !file.commit())
-    fail(file_, file.errorString());
+    raise_file_error(file_, file.errorString());
 }
 
 }  // namespace mirolen::qt

@@ -16,7 +16,8 @@ namespace mirolen::qt {
 class SettingsBag : public automation::PropertyBag {
  public:
   /// Reads the file; one that does not exist yet is an empty bag.
-  /// @throws FileError, which names the file, where it cannot be read or holds no settings.
+  /// @throws FileError, which names the file, where it cannot be read, holds no settings, has more than 64
+  /// MB, or is a device or a pipe.
   explicit SettingsBag(QString file);
 
   /// An entry that is damaged counts as missing.
@@ -26,8 +27,8 @@ class SettingsBag : public automation::PropertyBag {
   void write(const std::string& key, const automation::Variant& value,
              const automation::Variant& fallback) override;
 
-  /// Writes the file, all of it or nothing. @throws FileError, which names the file and what is wrong with
-  /// it.
+  /// Writes the file, or the one that it links to, all of it or nothing. @throws FileError, which names the
+  /// file and what is wrong with it.
   void save() const;
 
  private:
