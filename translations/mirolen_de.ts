@@ -698,6 +698,10 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>Ende des Druckauftrags</translation>
     </message>
     <message>
+        <source>the file could not be written as a whole</source>
+        <translation>die Datei ließ sich nicht vollständig schreiben</translation>
+    </message>
+    <message>
         <source>the making of a picture</source>
         <translation>Anlegen eines Bildes</translation>
     </message>
@@ -712,6 +716,10 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
     <message>
         <source>the printing</source>
         <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>the size of a picture</source>
+        <translation>die Größe eines Bildes</translation>
     </message>
     <message>
         <source>the start of a page</source>

@@ -1,15 +1,20 @@
 #include "mirolen/qt/PrintJob.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
+#include <cmath>
 
+#include "mirolen/qt/Histogram.h"
 #include "mirolen/qt/Plot2DS.h"
 #include "qt/page_tools.h"
 #include "qt/qt_support.h"
 #include "support/FullDisk.h"
+#include "support/SpecialFiles.h"
 
 namespace mirolen {
 namespace {
@@ -395,16 +400,77 @@ TEST_F(PrintJobTest, AFullDiskFailsAtTheEndAndLeavesNothing) {
     }
 }
 
-TEST_F(PrintJobTest, WithoutAPrinterTheFirstDrawingFails) {
+TEST_F(PrintJobTest, WithoutAPrinterThereIsNothingToPrintOn) {
   qputenv("CUPS_SERVER", "localhost:1");
   ASSERT_TRUE(QPrinterInfo::defaultPrinter().isNull());
+  for (const bool own : {true, false}) {
+    if (!own) face.setPrinterObj(PrintJob::default_printer());
+    EXPECT_EQ(face.PrintPlot(0, 0, 9000, 9000, true), 2);
+    EXPECT_EQ(face.PrintWaferSize(0, 0), 1);
+    EXPECT_EQ(face.PrintLegend(0, 0, true), 1);
+  }
+  qt::Histogram chart;
+  load_slope(chart);
+  EXPECT_EQ(chart.PrintPlot(0, 0, 9000, 9000, true), 1);
+}
+
+TEST_F(PrintJobTest, WithoutAPrinterDrawingFails) {
+  qputenv("CUPS_SERVER", "localhost:1");
   const auto job = PrintJob::default_printer();
-  face.setPrinterObj(job);
-  EXPECT_THROW(face.PrintPlot(0, 0, 9000, 9000, true), CanvasError);
-  EXPECT_THAT(error_of([&] { face.PrintWaferSize(0, 0); }), HasSubstr("the system has no printer"));
+  EXPECT_FALSE(job->present());
+  EXPECT_THAT(error_of([&] { draw_line(*job, 1, 0, 0, 9, 9); }), HasSubstr("the system has no printer"));
   EXPECT_THROW(job->new_page(), CanvasError);
   EXPECT_THROW(job->finish(), CanvasError);
   job->abandon();
+}
+
+// ---- Files that are none ----
+
+TEST_F(PrintJobTest, OnlyARegularFileIsReplaced) {
+  const SpecialFiles specials(directory.path().toStdString());
+  ASSERT_GE(specials.paths().size(), 6u);
+  for (const std::string& special : specials.paths()) {
+    const QString file = QString::fromStdString(special);
+    EXPECT_EQ(error_of([&] { PrintJob::pdf(file); }), special + ": not a regular file");
+    EXPECT_EQ(error_of([&] { PrintJob::svg(file, {100, 100}); }), special + ": not a regular file");
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(file);
+    face.setPrinterObj(PrintJob::on(printer));
+    EXPECT_EQ(error_of([&] { face.PrintWaferSize(0, 0); }), special + ": not a regular file");
+    face.setPrinterObj(nullptr);
+  }
+  EXPECT_TRUE(specials.stand());
+}
+
+TEST_F(PrintJobTest, ALinkToAFileStays) {
+  const QString link = path("link.pdf");
+  ASSERT_TRUE(QFile::link(pdf_path(), link));
+  for (const bool exists : {false, true}) {
+    EXPECT_EQ(QFile::exists(pdf_path()), exists);
+    const auto job = PrintJob::pdf(link);
+    face.setPrinterObj(job);
+    face.PrintWaferSize(0, 0);
+    job->finish();
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_TRUE(content().startsWith("%PDF"));
+  }
+}
+
+// ---- Titles ----
+
+TEST_F(PrintJobTest, APdfFileTellsItsTitleAndItsCreator) {
+  const auto info = [&](const QString& line) {
+    return QString::fromUtf8(output_of("pdfinfo", {pdf_path()}))
+        .section(line + ":", 1)
+        .section('\n', 0, 0)
+        .trimmed();
+  };
+  pdf()->finish();
+  EXPECT_EQ(info("Title"), "wafer");
+  EXPECT_EQ(info("Creator"), "MirolenViewWM");
+  PrintJob::pdf(pdf_path(), PrintJob::a4(), "Los µ 5 (a)")->finish();
+  EXPECT_EQ(info("Title"), "Los µ 5 (a)");
 }
 
 // ---- The host's printer ----
@@ -463,12 +529,89 @@ TEST_F(HostPrinterTest, OneThatCannotStartSaysSo) {
   EXPECT_THAT(error_of([&] { job->finish(); }), HasSubstr("the start of the print job"));
 }
 
+TEST_F(HostPrinterTest, AJobThatDoesNotStartLeavesAnOlderFile) {
+  write_older_file();
+  {
+    QPainter other(&printer);
+    QFile::remove(pdf_path());
+    write_older_file();
+    EXPECT_THROW(face.PrintWaferSize(0, 0), CanvasError) << "the printer is in use";
+    job->abandon();
+    EXPECT_EQ(content(), "older");
+  }
+}
+
+TEST_F(HostPrinterTest, AnAbandonedJobLeavesNoFile) {
+  face.PrintPlot(0, 0, 9000, 9000, true);
+  job->abandon();
+  EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(HostPrinterTest, AFinishedFileStays) {
+  face.PrintWaferSize(0, 0);
+  job->finish();
+  job->abandon();
+  EXPECT_EQ(files(), QStringList{"wafer.pdf"});
+}
+
+/// A page on a printer of its own that writes a PDF file.
+class PrinterOnAFullDisk : public PrintJobTest, public testing::WithParamInterface<rlim_t> {
+ protected:
+  PrinterOnAFullDisk() {
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(pdf_path());
+    face.setPrinterObj(job);
+  }
+  ~PrinterOnAFullDisk() override { face.setPrinterObj(nullptr); }
+  void print_pages(int count) {
+    for (int i = 0; i < count; ++i) {
+      face.PrintPlot(0, 0, 9000 + i, 9000, true);
+      job->new_page();
+    }
+  }
+  QPrinter printer{QPrinter::HighResolution};
+  std::shared_ptr<PrintJob> job = PrintJob::on(printer);
+};
+
+TEST_P(PrinterOnAFullDisk, IsToldAtTheEndAndLeavesNothing) {
+  std::string error;
+  {
+    const FullDisk full(GetParam());
+    face.PrintPlot(0, 0, 9000, 9000, true);
+    face.PrintWaferSize(0, 9500);
+    error = error_of([&] { job->finish(); });
+  }
+  EXPECT_EQ(error, pdf_path().toStdString() + ": the file could not be written as a whole");
+  EXPECT_EQ(files(), QStringList());
+}
+
+TEST_P(PrinterOnAFullDisk, ForAWhileLeavesAWholeFileOrNone) {
+  std::string error;
+  {
+    const FullDisk full(GetParam());
+    error = error_of([&] { print_pages(20); });
+  }
+  if (error.empty())
+    error = error_of([&] {
+      print_pages(1);
+      job->finish();
+    });
+  if (!error.empty()) job->abandon();
+  if (error.empty())
+    EXPECT_EQ(pages_of(pdf_path()), 22);
+  else
+    EXPECT_EQ(files(), QStringList()) << error;
+}
+
+INSTANTIATE_TEST_SUITE_P(WithRoomFor, PrinterOnAFullDisk, testing::Values(0, 1000, 5000));
+
 // ---- SVG ----
 
 struct SvgFile {
-  QSize view_box;
-  QString width, height;
+  QSizeF view_box;
+  QString title, width, height;
   QString text;
+  QStringList fonts;
   int texts = 0, images = 0;
 };
 
@@ -483,9 +626,12 @@ SvgFile read_svg(const QString& path) {
     if (token != QXmlStreamReader::StartElement) continue;
     if (xml.name() == u"text") ++svg.texts;
     if (xml.name() == u"image") ++svg.images;
+    if (xml.name() == u"title") svg.title = xml.readElementText();
+    if (xml.attributes().hasAttribute("font-family"))
+      svg.fonts << xml.attributes().value("font-family").toString();
     if (xml.name() != u"svg") continue;
     const QStringList edges = xml.attributes().value("viewBox").toString().split(' ');
-    svg.view_box = {edges.value(2).toInt(), edges.value(3).toInt()};
+    svg.view_box = {edges.value(2).toDouble(), edges.value(3).toDouble()};
     svg.width = xml.attributes().value("width").toString();
     svg.height = xml.attributes().value("height").toString();
   }
@@ -501,10 +647,11 @@ TEST_F(PrintJobTest, AnSvgFileHoldsVectorsAndTexts) {
   face.PrintWaferStatistic(0, 9400, "<µ>&\"\"");
   job->finish();
   const SvgFile file = read_svg(path("wafer.svg"));
-  EXPECT_EQ(file.view_box, QSize(4961, 7016));
-  EXPECT_TRUE(file.width.endsWith("mm"));
-  EXPECT_NEAR(file.width.chopped(2).toDouble(), 210, 0.2);
-  EXPECT_NEAR(file.height.chopped(2).toDouble(), 297, 0.2);
+  EXPECT_EQ(file.width, "210mm");
+  EXPECT_EQ(file.height, "297mm");
+  EXPECT_NEAR(file.view_box.width(), 210 / 25.4 * 600, 0.01);
+  EXPECT_NEAR(file.view_box.height(), 297 / 25.4 * 600, 0.01);
+  EXPECT_EQ(file.title, "wafer");
   EXPECT_GT(file.texts, 15);
   EXPECT_EQ(file.images, 0);
   for (const char* text : {"Mean:", "<µ>&\"\"", "Notch"}) EXPECT_TRUE(file.text.contains(text)) << text;
@@ -531,6 +678,52 @@ TEST_F(PrintJobTest, AnAbandonedSvgFileIsNone) {
   const auto job = svg();
   face.PrintWaferSize(0, 0);
   job->abandon();
+  EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(PrintJobTest, AnSvgFileHasTheSizeAndTheTitleThatItIsGiven) {
+  PrintJob::svg(path("wafer.svg"), {123.4, 56.78}, "<Los> & \"5\"")->finish();
+  const SvgFile file = read_svg(path("wafer.svg"));
+  EXPECT_EQ(file.width, "123.4mm");
+  EXPECT_EQ(file.height, "56.78mm");
+  EXPECT_EQ(file.title, "<Los> & \"5\"");
+}
+
+TEST_F(PrintJobTest, TheFontsOfAnSvgFileHaveAStandIn) {
+  qt::Plot2DS sigma_map;
+  load_slope(sigma_map);
+  const auto job = svg();
+  sigma_map.setPrinterObj(job);
+  sigma_map.PrintLegend(0, 0, true);
+  job->finish();
+  const SvgFile file = read_svg(path("wafer.svg"));
+  EXPECT_EQ(file.text.count(QStringLiteral("σ")), 3) << "a letter of any font";
+  ASSERT_GT(file.fonts.size(), 3);
+  for (const QString& font : file.fonts) EXPECT_TRUE(font.endsWith(", sans-serif")) << font.toStdString();
+  EXPECT_TRUE(file.fonts.contains("Arial, sans-serif"));
+}
+
+TEST_F(PrintJobTest, OnlyAreasWithoutAnOutlineAreCrispInAnSvgFile) {
+  const auto job = svg();
+  job->FillStyle(solid_fill);
+  job->Circle(500, 500, 100);
+  job->DrawStyle(no_outline);
+  job->FillColor(red);
+  job->Polygon(std::array<PixelPoint, 4>{{{600, 600}, {1200, 600}, {1200, 1200}, {600, 1200}}});
+  job->finish();
+  QFile file(path("wafer.svg"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray content = file.readAll();
+  EXPECT_EQ(content.count("crispEdges"), 1);
+  EXPECT_GT(content.indexOf("crispEdges"), content.indexOf("<circle"));
+}
+
+TEST_F(PrintJobTest, AnSvgFileHasASize) {
+  const double nan = std::nan(""), infinity = std::numeric_limits<double>::infinity();
+  for (const double bad : {0., -5., nan, infinity, -infinity, 1e9}) {
+    EXPECT_THROW(PrintJob::svg(path("wafer.svg"), {bad, 100}), InvalidArgument) << bad;
+    EXPECT_THROW(PrintJob::svg(path("wafer.svg"), {100, bad}), InvalidArgument) << bad;
+  }
   EXPECT_EQ(files(), QStringList());
 }
 

@@ -107,7 +107,7 @@ class ControlFrame : public UserControl {
   // The host starts and ends the job and its pages, and calls for one piece of a page after the other.
   // Nothing is printed without data or without a `PrinterObj`. These throw RunTimeError where that fails.
 
-  /// What the print members draw on; the host's, and null where the system has no printer.
+  /// What the print members draw on: the system's printer, which they look for, or the host's; may be null.
   std::shared_ptr<PlotCanvas> PrinterObj;
 
   /// Prints the plot into an area, by DrawFrame in a frame with its caption. The control needs a smallest
@@ -171,7 +171,7 @@ class ControlFrame : public UserControl {
   /// Gives the control at least this size, inside its resize handler and without running that again.
   void raise_size(const SurfaceSize& least);
   /// Whether there is something to print, and something to print on.
-  bool can_print() const { return wafobj.GetNop() > 0 && PrinterObj; }
+  bool can_print() const { return wafobj.GetNop() > 0 && PrinterObj && PrinterObj->present(); }
   /// Calls print(page) for a plot if the control has at least this size. @return as `PrintPlot`.
   template <class Print>
   std::int16_t print_plot(double least_width, double least_height, Print print) {

@@ -35,6 +35,8 @@ class PlotCanvas {
   virtual ~PlotCanvas() = default;
 
   virtual CanvasKind kind() const = 0;
+  /// Whether there is a device to draw on. A control asks before it prints.
+  virtual bool present() const { return true; }
 
   /// The drawing area in scale units.
   virtual double ScaleLeft() const = 0;
