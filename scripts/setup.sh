@@ -3,8 +3,8 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 packages_to_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev qt6-l10n-tools fonts-liberation)
-packages_to_check=(ccache libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev poppler-utils locales xvfb xauth xdotool
-                   clang-format python3 valgrind)
+packages_to_check=(ccache libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev poppler-utils mupdf-tools
+                   ghostscript librsvg2-bin locales xvfb xauth xdotool clang-format python3 valgrind)
 
 as_root() {
   if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
