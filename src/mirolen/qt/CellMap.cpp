@@ -35,12 +35,15 @@ std::map<Color, QRegion> regions_of(const Rows& rows) {
   return regions;
 }
 
-/// A region and all that it passes on its way by a distance along one axis.
-QRegion swept(QRegion region, const QPoint& step, int distance) {
-  for (int swept = 0; swept < distance;) {
-    const int further = std::min(swept + 1, distance - swept);
-    region |= region.translated(step * further);
-    swept += further;
+/// A region and all that it passes on its way by a distance along one axis. It goes in as few steps as leave
+/// no gap: none is longer than its thinnest part and what it has passed by then.
+QRegion swept(QRegion region, const QPoint& axis, int distance) {
+  int thinnest = distance;
+  for (const QRect& box : region) thinnest = std::min(thinnest, axis.x() ? box.width() : box.height());
+  for (int passed = 0; passed < distance;) {
+    const int step = std::min(passed + thinnest, distance - passed);
+    region |= region.translated(axis * step);
+    passed += step;
   }
   return region;
 }
