@@ -92,6 +92,17 @@ TYPED_TEST(PrintMembers, WithoutATargetNothingIsPrinted) {
   this->expect_refused(TestFixture::Told::nothing_to_print);
 }
 
+TYPED_TEST(PrintMembers, ATargetWithoutADeviceIsAsNone) {
+  class MissingPrinter : public TestPrinter {
+   public:
+    bool present() const override { return false; }
+  };
+  this->control.PrinterObj = std::make_shared<MissingPrinter>();
+  this->expect_refused(TestFixture::Told::nothing_to_print);
+  EXPECT_EQ(this->control.PrintWaferStatistic(0, 0, "nm"), 1);
+  EXPECT_EQ(this->control.PrintWaferSize(0, 0), 1);
+}
+
 TYPED_TEST(PrintMembers, AControlThatIsTooSmallPrintsNoPlot) {
   using Told = typename TestFixture::Told;
   for (const auto& [width, height] : {std::pair{Told::least_width - 0.5, 9000.0},
@@ -427,16 +438,28 @@ TEST_F(PrintPlot2DC, ARefusalIsTheMessageOfTheControlsToolkit) {
   EXPECT_FALSE(screen().message) << "it is nobody else's";
 }
 
-TEST_F(PrintPlot2DC, AMeanOf0HasNoPercentInTheFullForm) {
+TEST_F(PrintPlot2DC, AMeanOf0HasTheSpreadForItsPercent) {
   SiteColumns sites = square_of_sites();
-  for (std::size_t i = 0; i < sites.z.size(); ++i) sites.z[i] = static_cast<double>(i) - 12;
+  for (std::size_t i = 0; i < sites.z.size(); ++i) sites.z[i] = static_cast<double>(i) - 12;  // 24 apart
   ASSERT_EQ(control.load(sites), 0);
   ASSERT_EQ(control.mean(), 0);
-  control.IntervalInPercent(-1);
-  EXPECT_THROW(Told::members()[0].print(control, {}, framed), DivisionByZero);
-  expect_as_told(Told::members()[1], framed);
-  control.IntervalInPercent(0);
-  expect_as_told(Told::members()[0], framed);
+  const auto curves = [&](const PrintMember<Plot2DC>& member) {
+    Recording lines = printed(member, framed);
+    std::erase_if(lines,
+                  [](const recorded::Call& call) { return !std::holds_alternative<recorded::Line>(call); });
+    return lines;
+  };
+  for (const auto& member : Told::members()) {
+    control.Interval(6);
+    control.IntervalInPercent(-1);
+    const Recording in_the_unit = curves(member);
+    expect_as_told(member, framed);
+    control.Interval(25);
+    control.IntervalInPercent(0);
+    EXPECT_GT(in_the_unit.size(), 50u);
+    EXPECT_EQ(difference(in_the_unit, curves(member)), "") << member.name;
+    expect_as_told(member, framed);
+  }
 }
 
 using PrintHistogram = PrintMembers<Histogram>;
