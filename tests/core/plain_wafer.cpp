@@ -186,6 +186,7 @@ void PlainWafer::MaxMin() {
 }
 
 void PlainWafer::setMaximalMinial(double maxim, double minim) {
+  finite(maxim + minim);  // a failure changes nothing
   range = finite(maxim - minim);
   maximal = maxim;
   minimal = minim;

@@ -265,6 +265,19 @@ TEST(SetMaximalMinial, MovesTheScaleAndLeavesTheData) {
   EXPECT_EQ(sample.StdDev, std::sqrt(8.0));
 }
 
+TEST(SetMaximalMinial, ChangesNothingWhereItFails) {
+  wafer sample;
+  load(sample, with_values({2, 6}));
+  for (const auto& [high, low] : {std::pair{1.5e308, 1e308}, {1.5e308, -1.5e308}, {1.7e308, 1.7e308}}) {
+    EXPECT_THROW(sample.setMaximalMinial(high, low), OverflowError) << high << " " << low;
+    EXPECT_EQ(sample.maximal, 6);
+    EXPECT_EQ(sample.minimal, 2);
+    EXPECT_EQ(sample.range, 4);
+    EXPECT_EQ(sample.HiLo, 50);
+    EXPECT_EQ(sample.Low, 2);
+  }
+}
+
 TEST(SetMaximalMinial, DoesNotCheckTheOrder) {
   wafer sample;
   sample.setMaximalMinial(3, 9);

@@ -29,16 +29,18 @@ void wafer::MaxMin() {
 }
 
 void wafer::setMaximalMinial(double maxim, double minim) {
-  checked(maxim - minim);
+  set_scale(maxim, minim);  // fails before it changes anything, or not at all
   maximal = maxim;
   minimal = minim;
-  set_scale(maxim, minim);
 }
 
 void wafer::set_scale(double high, double low) {
-  range = checked(high - low);
-  HiLo = checked(high + low) == 0 ? 0 : checked(std::abs(range / (high + low)) * 100);
-  Low = high == low ? base_of_equal_limits(low) : low;
+  const double spread = checked(high - low), sum = checked(high + low);
+  const double percent = sum == 0 ? 0 : checked(std::abs(spread / sum) * 100);
+  const double base = high == low ? base_of_equal_limits(low) : low;
+  range = spread;
+  HiLo = percent;
+  Low = base;
 }
 
 double wafer::base_of_equal_limits(double limit) {

@@ -116,7 +116,7 @@ class wafer {
   /// diameter 0.
   void MaxMin();
   /// Sets the plot limits and what follows from them (`range`, `HiLo`, `Low`). The order is not checked.
-  /// @throws OverflowError.
+  /// @throws OverflowError, and changes nothing then.
   void setMaximalMinial(double maxim, double minim);
   /// Sum of (z - glmean)^2 over all sites; 0 without any. @throws OverflowError.
   double Globlal_Value_Sub_Mean(double glmean) const;
