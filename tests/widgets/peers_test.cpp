@@ -22,24 +22,31 @@ class PeerToolkit : public HeadlessToolkit {
     EXPECT_TRUE(!widget.container() || widget.container()->peer()) << "a container comes first";
     made.push_back(&widget);
     ++told[&widget].peers;
-    return std::make_unique<CountingPeer>(widget, told[&widget]);
+    return std::make_unique<CountingPeer>(*this, widget, told[&widget]);
   }
 
   std::vector<const Widget*> made;
+  bool fail = false;  ///< The peers throw, and no std::exception.
   std::map<const Widget*, Told> told;
 
  private:
   class CountingPeer : public Peer {
    public:
-    CountingPeer(const Widget& widget, Told& told) : widget_(widget), told_(told) {}
+    CountingPeer(const PeerToolkit& toolkit, const Widget& widget, Told& told)
+        : toolkit_(toolkit), widget_(widget), told_(told) {}
     void changed() override {
+      if (toolkit_.fail) throw 5;
       ++told_.changes;
       told_.width = widget_.Width;
     }
-    void refresh() override { ++told_.refreshes; }
+    void refresh() override {
+      if (toolkit_.fail) throw 5;
+      ++told_.refreshes;
+    }
     std::uintptr_t handle() const override { return 4711; }
 
    private:
+    const PeerToolkit& toolkit_;
     const Widget& widget_;
     Told& told_;
   };
@@ -120,6 +127,43 @@ TEST_F(Peers, RepaintOnRefresh) {
   inner.Refresh();
   EXPECT_EQ(told(inner).refreshes, 1);
   EXPECT_EQ(told(frame).refreshes, 0);
+}
+
+TEST_F(Peers, ThatFailLeaveTheValueAndCatchUp) {
+  realize();
+  toolkit.fail = true;
+  EXPECT_NO_THROW(inner.Width = 450);
+  EXPECT_NO_THROW(root.MousePointer = 11);
+  EXPECT_NO_THROW(frame.Refresh());
+  EXPECT_EQ(inner.Width.get(), 450);
+  EXPECT_EQ(told(inner).width, 0);
+  EXPECT_FALSE(root.catch_up()) << "they fail still";
+  toolkit.fail = false;
+  EXPECT_TRUE(root.catch_up());
+  EXPECT_EQ(told(inner).width, 450);
+  EXPECT_EQ(told(root).changes, 1);
+  EXPECT_EQ(told(picture).changes, 0);
+  EXPECT_FALSE(root.catch_up()) << "all is shown";
+}
+
+TEST_F(Peers, ThatFailOnceAreRightAfterTheNextChange) {
+  realize();
+  toolkit.fail = true;
+  inner.Width = 450;
+  toolkit.fail = false;
+  inner.Height = 300;
+  EXPECT_EQ(told(inner).width, 450);
+  EXPECT_FALSE(root.catch_up());
+}
+
+TEST_F(Peers, AWidgetIsSeenWhileNothingAroundItIsHidden) {
+  EXPECT_TRUE(inner.is_seen());
+  frame.Visible = false;
+  EXPECT_FALSE(inner.is_seen());
+  EXPECT_TRUE(picture.is_seen());
+  frame.Visible = true;
+  inner.Visible = false;
+  EXPECT_FALSE(inner.is_seen());
 }
 
 TEST_F(Peers, GoWithTheirWidgets) {

@@ -13,11 +13,38 @@ SurfaceSize PictureBox::pixel_size() const {
 Surface* PictureBox::device() const {
   const SurfaceSize size = pixel_size();
   if (!surface_ || !(drawn_size_ == size)) {
-    surface_ = toolkit().make_surface(const_cast<PictureBox&>(*this));
+    surface_ = const_cast<PictureBox&>(*this).made_surface();
     drawn_size_ = size;
     drawn_background_ = BackColor;
   }
   return surface_.get();
+}
+
+// A renderer may go on where a picture cannot be made or erased, so the picture itself keeps in mind that it
+// is not what it should be.
+
+std::unique_ptr<Surface> PictureBox::made_surface() {
+  try {
+    return toolkit().make_surface(*this);
+  } catch (...) {
+    stay_behind();
+    throw;
+  }
+}
+
+void PictureBox::Cls() {
+  try {
+    erase();
+  } catch (...) {
+    stay_behind();
+    throw;
+  }
+}
+
+void PictureBox::erase() {
+  SurfaceCanvas::Cls();
+  drawn_background_ = BackColor;
+  if (background_image_) device()->restore(*background_image_);
 }
 
 SurfaceSize PictureBox::container_unit() const {
@@ -29,21 +56,12 @@ void PictureBox::move_to(double left, double top) {
   Move(left * container_unit().width, top * container_unit().height);
 }
 
-void PictureBox::Cls() {
-  SurfaceCanvas::Cls();
-  if (background_image_) device()->restore(*background_image_);
-}
-
-void PictureBox::changed() {
+void PictureBox::show_change() {
   if (surface_ && drawn_background_ != BackColor) {
+    surface_->clear(toolkit().resolve(BackColor));
     drawn_background_ = BackColor;
-    try {
-      surface_->clear(toolkit().resolve(BackColor));
-    } catch (const RunTimeError&) {
-      // A picture that cannot be erased now is erased by the next drawing.
-    }
   }
-  Widget::changed();
+  Widget::show_change();
 }
 
 }  // namespace mirolen

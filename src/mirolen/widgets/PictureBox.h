@@ -30,7 +30,6 @@ class PictureBox : public Widget, public SurfaceCanvas, public IndicatorMark {
   /// Takes away what `keep_as_background` kept.
   void forget_background() { background_image_ = nullptr; }
   void Refresh() override { SurfaceCanvas::Refresh(); }
-  void changed() override;
   void move_to(double left, double top) override;
   void set_visible(bool visible) override { Visible = visible; }
 
@@ -40,12 +39,15 @@ class PictureBox : public Widget, public SurfaceCanvas, public IndicatorMark {
   Surface* device() const override;
 
  protected:
+  void show_change() override;
   Color background() const override { return BackColor; }
   void set_background(Color color) override { BackColor = color; }
   Color resolve(Color color) const override { return toolkit().resolve(color); }
 
  private:
   SurfaceSize container_unit() const;
+  std::unique_ptr<Surface> made_surface();
+  void erase();
 
   std::shared_ptr<const mirolen::Image> background_image_;
   mutable std::unique_ptr<Surface> surface_;

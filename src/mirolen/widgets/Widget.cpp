@@ -24,8 +24,14 @@ void Widget::Move(double left, std::optional<double> top, std::optional<double> 
 }
 
 void Widget::Refresh() {
-  if (peer_) peer_->refresh();
+  try {
+    if (peer_) peer_->refresh();
+  } catch (...) {
+    behind_ = true;
+  }
 }
+
+bool Widget::is_seen() const { return Visible && (!container_ || container_->is_seen()); }
 
 void Widget::realize() {
   peer_ = toolkit_.make_peer(*this);
@@ -33,8 +39,26 @@ void Widget::realize() {
   for (Widget* child : children_) child->realize();
 }
 
-void Widget::changed() {
+void Widget::changed() noexcept {
+  try {
+    show_change();
+    behind_ = false;
+  } catch (...) {
+    behind_ = true;
+  }
+}
+
+void Widget::show_change() {
   if (peer_) peer_->changed();
+}
+
+bool Widget::catch_up() {
+  const bool was_behind = behind_;
+  if (was_behind) changed();
+  bool shown = was_behind && !behind_;
+  for (Widget* child : children_)
+    if (child->catch_up()) shown = true;
+  return shown;
 }
 
 }  // namespace mirolen

@@ -52,8 +52,10 @@ class Widget {
   /// Places the widget; what is left out stays.
   void Move(double left, std::optional<double> top = {}, std::optional<double> width = {},
             std::optional<double> height = {});
-  /// Repaints what is on the screen.
+  /// Repaints what is on the screen. A peer that fails is left behind.
   virtual void Refresh();
+  /// Whether the user can see it, as far as this tree of widgets goes: nothing that it lies in is hidden.
+  bool is_seen() const;
   /// Takes the keyboard focus.
   void SetFocus() { toolkit_.set_focus(*this); }
 
@@ -70,10 +72,19 @@ class Widget {
 
   /// Makes the peers of this widget and of all below it.
   void realize();
-  /// Called by the properties at each change of a value.
-  virtual void changed();
+  /// Called by the properties at each change of a value. A peer that fails is left behind: the value holds,
+  /// and no error comes out.
+  void changed() noexcept;
+  /// Shows once more what failed to be shown, here and in all below. @return whether anything was shown by
+  /// that.
+  bool catch_up();
 
  protected:
+  /// Brings the screen up to date with the values. May throw.
+  virtual void show_change();
+  /// Lets `catch_up` show once more what the user may not see as it should be.
+  void stay_behind() { behind_ = true; }
+
   /// The root of a tree of widgets.
   Widget(WidgetKind kind, Toolkit& toolkit);
 
@@ -83,6 +94,7 @@ class Widget {
   Widget* container_ = nullptr;
   std::vector<Widget*> children_;
   std::unique_ptr<Peer> peer_;
+  bool behind_ = false;
 };
 
 }  // namespace mirolen

@@ -4,12 +4,12 @@
 
 namespace mirolen {
 
-void Label::changed() {
+void Label::show_change() {
   if (AutoSize) {
     const SurfaceSize text = toolkit().measure(Font, Caption.get());
     Width = text.width * toolkit().twips_per_pixel().width;
   }
-  Widget::changed();
+  Widget::show_change();
 }
 
 void TextField::Text(const std::string& text) {

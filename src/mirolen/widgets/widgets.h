@@ -56,7 +56,8 @@ class Label : public Keyed, public ValueLabel {
   void tool_tip(const std::string& text) override { ToolTipText = text; }
   void set_visible(bool visible) override { Visible = visible; }
 
-  void changed() override;
+ protected:
+  void show_change() override;
 };
 
 class Button : public Keyed {
