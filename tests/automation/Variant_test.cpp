@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <set>
 
@@ -105,6 +106,14 @@ TEST(Conversion, WordsForWhatIsNotFiniteAreNoNumbers) {
   for (const char* word : {"nan", "inf", "-inf", "infinity", "NaN"})
     for (const Type type : {Type::real, Type::int16, Type::int32, Type::boolean})
       EXPECT_THROW(converted(std::string(word), type), RunTimeError) << word;
+}
+
+TEST(Conversion, OnlyADoubleHoldsWhatIsNotFinite) {
+  EXPECT_TRUE(std::isnan(real(not_a_number)));
+  EXPECT_EQ(real(infinity), infinity);
+  for (const double odd : {not_a_number, infinity, -infinity})
+    for (const Type type : {Type::boolean, Type::int16, Type::int32, Type::text})
+      EXPECT_THROW(converted(odd, type), OverflowError) << odd;
 }
 
 TEST(Conversion, ATextBeyondTheRangeOfDoubleHasNoReading) {

@@ -2,6 +2,8 @@
 
 #include <exception>
 
+#include "mirolen/core/numbers.h"
+
 namespace mirolen::automation {
 namespace {
 
@@ -9,10 +11,17 @@ Variant fallback_of(const Object& object, const StoredKey& key) {
   return key.fallback ? *key.fallback : converted(get(object, key.property), key.type);
 }
 
+/// @throws RunTimeError for a value that has no reading in the key's type. NaN and the infinities have none.
+Variant reading(const Variant& value, Type type) {
+  const Variant read = converted(value, type);
+  if (const auto* number = std::get_if<double>(&read)) checked(*number);
+  return read;
+}
+
 void read_property(const Object& object, const PropertyBag& bag, const StoredKey& key) {
   const Variant fallback = fallback_of(object, key);
   try {
-    let(object, key.property, converted(bag.read(key.key, fallback), key.type));
+    let(object, key.property, reading(bag.read(key.key, fallback), key.type));
   } catch (const RunTimeError&) {
     let(object, key.property, fallback);
   }

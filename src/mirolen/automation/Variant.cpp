@@ -34,7 +34,7 @@ std::string text_of(const Variant& value) {
   if (std::holds_alternative<bool>(value)) return std::get<bool>(value) ? "True" : "False";
   constexpr double whole_below = 1e15;
   constexpr int digits = 15;
-  const double number = number_of(value, Type::text);
+  const double number = checked(number_of(value, Type::text));
   const bool whole = std::trunc(number) == number && std::abs(number) < whole_below;
   const auto format = whole ? std::chars_format::fixed : std::chars_format::general;
   std::array<char, 32> text{};
@@ -55,7 +55,7 @@ Variant converted(const Variant& value, Type to) {
   if (type_of(value) == to) return value;
   switch (to) {
     case Type::boolean:
-      return number_of(value, to) != 0;
+      return checked(number_of(value, to)) != 0;
     case Type::int16:
       return to_int16(number_of(value, to));
     case Type::int32:

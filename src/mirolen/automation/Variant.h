@@ -32,6 +32,7 @@ const char* name_of(Type type);
 
 /// A value in another type: numbers are rounded half to even, any number but 0 is True, True is -1.
 /// A text that reads as a number counts as one, with "." as its separator.
+/// A Double stays as it is, also NaN; in no other type does a number that is not finite have a reading.
 /// @throws OverflowError where it does not fit, InvalidArgument where there is no such reading.
 Variant converted(const Variant& value, Type to);
 
