@@ -5,6 +5,7 @@
 
 #include "mirolen/core/translation.h"
 #include "mirolen/dialogs/input_checks.h"
+#include "mirolen/render/StringFormat.h"
 
 namespace mirolen {
 namespace {
@@ -15,6 +16,13 @@ constexpr double picture_side = 34;  // pixels
 float single_precision(double value) {
   if (std::abs(value) > std::numeric_limits<float>::max()) throw OverflowError("single precision");
   return static_cast<float>(value);
+}
+
+/// The text of a control's own diameter says no more than its digits, so it is by them that two are equal.
+void write_if_another(const automation::Object& control, const char* property, double diameter) {
+  const double own = std::get<double>(converted(get(control, property), automation::Type::real));
+  if (diameter != own && diameter != number_in(StringFormat::plain_text(own)))
+    let(control, property, diameter);
 }
 
 }  // namespace
@@ -53,8 +61,8 @@ bool WaferInfoProp::write_together(Controls controls) {
   }
   for (const automation::Object& control : controls)
     quietly([&] {
-      let(control, "WaferDiameter", diameter);
-      let(control, "TestDiameter", test);
+      write_if_another(control, "WaferDiameter", diameter);
+      write_if_another(control, "TestDiameter", test);
     });
   return true;
 }

@@ -21,7 +21,8 @@ class WaferInfoProp : public PropertyPage {
   CheckBox showLeg{this, "Hide Plot Legend:"};
 
  protected:
-  /// The diameters, which have to fit each other.
+  /// The diameters, which have to fit each other. One that is the control's own is not written, as writing
+  /// that of the wafer empties the store.
   bool write_together(Controls controls) override;
 
  private:
