@@ -1,5 +1,6 @@
 #include "mirolen/render/PlotArea.h"
 
+#include "mirolen/core/RunTimeError.h"
 #include "mirolen/render/Screen.h"
 
 namespace mirolen {
@@ -7,7 +8,22 @@ namespace {
 
 constexpr double fallback_twips_per_pixel = 4.8;
 
+thread_local std::int64_t failures_of_canvases = 0;
+
+/// Called while an error is handled.
+bool is_of_canvas() {
+  try {
+    throw;
+  } catch (const CanvasError&) {
+    return true;
+  } catch (...) {
+    return false;
+  }
+}
+
 }  // namespace
+
+std::int64_t PlotArea::canvas_failures() { return failures_of_canvases; }
 
 void PlotArea::clear() {
   if (on_page_) return;
@@ -30,6 +46,7 @@ void PlotArea::locate() {
 }
 
 void PlotArea::fall_back() {
+  if (is_of_canvas()) ++failures_of_canvases;
   const auto keep_if_too_large = [](double& target, auto value) {
     try {
       target = value();

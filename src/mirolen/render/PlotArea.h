@@ -19,6 +19,9 @@ class PlotArea {
 
   bool on_page() const { return on_page_; }
 
+  /// How often a canvas has failed in a statement, on this thread. What that should have drawn is missing.
+  static std::int64_t canvas_failures();
+
   /// Runs a statement that may fail.
   template <class Statement>
   void resume(Statement&& statement) {
