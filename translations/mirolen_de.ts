@@ -586,6 +586,10 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>das Bild ist nicht als PNG zu speichern</translation>
     </message>
     <message>
+        <source>a place on the page</source>
+        <translation>ein Ort auf der Seite</translation>
+    </message>
+    <message>
         <source>a place or size on a canvas</source>
         <translation>ein Ort oder Maß auf einer Zeichenfläche</translation>
     </message>

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "control_support.h"
+#include "print_members.h"
 
 namespace mirolen {
 namespace {
@@ -442,6 +443,56 @@ TEST_F(LineScanTest, ALineBesideTheWaferIsQuietlyLeftOut) {
   EXPECT_EQ(control.MousePointer(), 0);
 }
 
+TEST_F(LineScanTest, AnUnknownModeIsThatOfTheAngle) {
+  plot_square();
+  control.RotationPointX(10);
+  control.LineStartPointX(-40);
+  control.LineEndPointX(50);
+  control.ShowSites(true);
+  control.angle(30);
+  control.Plot();
+  control.resize_to(control.Width, control.Height);  // the labels make room for themselves
+  control.Plot();
+  const auto x_labels = labels(true), y_labels = labels(false);
+  const auto pieces = curve();
+  const std::vector<std::string> tips = marks();
+  const std::vector<double> line{control.FNLine.X1, control.FNLine.Y1, control.FNLine.X2, control.FNLine.Y2};
+  const Recording miniature = recording_of(control.FNPic);
+  for (const int odd : {0, 3, -1, 32767}) {
+    control.PlotType(static_cast<PlotTypeEnumLineScan>(odd));
+    EXPECT_EQ(static_cast<int>(control.PlotType()), odd) << "as set";
+    control.Plot();
+    control.resize_to(control.Width, control.Height);
+    EXPECT_EQ(curve(), pieces) << odd;
+    control.Plot();
+    EXPECT_EQ(labels(true), x_labels) << odd;
+    EXPECT_EQ(labels(false), y_labels) << odd;
+    EXPECT_EQ(marks(), tips) << odd;
+    EXPECT_EQ(
+        (std::vector<double>{control.FNLine.X1, control.FNLine.Y1, control.FNLine.X2, control.FNLine.Y2}),
+        line)
+        << odd;
+    EXPECT_EQ(difference(recording_of(control.FNPic), miniature), "") << odd;
+  }
+}
+
+TEST_F(LineScanTest, AnUnknownModeIsPrintedAsThatOfTheAngle) {
+  plot_square();
+  control.RotationPointX(10);
+  control.LineStartPointX(-40);
+  control.LineEndPointX(50);
+  const auto printed = [&](int mode) {
+    control.PlotType(static_cast<PlotTypeEnumLineScan>(mode));
+    const auto paper = std::make_shared<TestPrinter>();
+    control.PrinterObj = paper;
+    EXPECT_EQ(control.PrintPlot(700, 900, 9000, 7000), 0);
+    return paper->recording();
+  };
+  const Recording by_angle = printed(1);
+  EXPECT_NE(printed(2), by_angle);
+  for (const int odd : {0, 3, -1}) EXPECT_EQ(difference(printed(odd), by_angle), "") << odd;
+}
+
 TEST_F(LineScanTest, EveryPlotIsDrawn) {
   plot_square();
   int cleared = 0;
@@ -619,12 +670,12 @@ TEST_F(LineScanTest, AChangeOfSizeDrawsTheLineOfTheModeAndItsMarks) {
   EXPECT_EQ(marks().size(), 5u);
 }
 
-TEST_F(LineScanTest, AChangeOfSizeDrawsByTheAngleOnlyInItsMode) {
+TEST_F(LineScanTest, AChangeOfSizeDrawsByTheLineOnlyInItsMode) {
   plot_square();
   take_line(-30, -20, 60, 10);
   control.PlotType(static_cast<PlotTypeEnumLineScan>(3));
   control.resize_to(9000, 7000);
-  EXPECT_EQ(curve(), curve_by_hand(false, 0, -30, -20, 60, 10));
+  EXPECT_EQ(curve(), curve_by_hand(true, 0, 0, 0, 0, 0));
 }
 
 TEST_F(LineScanTest, AFormWithoutScaleModeDoesNotEndAChangeOfSize) {

@@ -50,6 +50,15 @@ TEST_F(Plot2DEvents, TheFocusGoesToTheButton) {
   EXPECT_EQ(toolkit.focused, &control.Command1);
 }
 
+TEST_F(Plot2DEvents, TheFocusStaysWhileTheLegendIsHidden) {
+  control.HideLegend(true);
+  control.OnEnterFocus();
+  EXPECT_EQ(toolkit.focused, nullptr) << "its button is in the legend's column";
+  control.HideLegend(false);
+  control.OnEnterFocus();
+  EXPECT_EQ(toolkit.focused, &control.Command1);
+}
+
 TEST_F(Plot2DEvents, TheFocusStaysWhenTheButtonIsHidden) {
   control.Command1.Visible = false;
   control.OnEnterFocus();

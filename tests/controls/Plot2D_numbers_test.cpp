@@ -17,36 +17,6 @@ class Plot2DNumbers : public Plot2DTest {
   }
 };
 
-TEST_F(Plot2DNumbers, AWaferDiameterThatIsNotFiniteBecomes200) {
-  for (const double v : {not_a_number, infinity, -infinity}) {
-    control.WaferDiameter(v);
-    EXPECT_EQ(control.WaferDiameter(), 200) << v;
-    EXPECT_EQ(control.wafobj.WaferOrigRad, 100) << v;
-  }
-}
-
-TEST_F(Plot2DNumbers, AResolutionThatIsNotANumberBecomesFive) {
-  place();
-  control.Resolution(not_a_number);
-  EXPECT_EQ(control.Resolution(), 5);
-}
-
-TEST_F(Plot2DNumbers, AnEndlessResolutionBecomesAFiniteOne) {
-  place();
-  control.Resolution(infinity);
-  EXPECT_GT(control.Resolution(), 0);
-  EXPECT_LE(control.Resolution(), 48.5);
-}
-
-TEST_F(Plot2DNumbers, ATestDiameterThatIsNotFiniteBecomesAFiniteOne) {
-  place();
-  for (const double v : {not_a_number, infinity, -infinity}) {
-    control.TestDiameter(v);
-    EXPECT_TRUE(std::isfinite(control.TestDiameter())) << v;
-    EXPECT_EQ(control.TestDiameter(), 200) << "as a value below zero";
-  }
-}
-
 TEST_F(Plot2DNumbers, NoSettingThrowsAndThePlotGoesOn) {
   for (const double v : odd_numbers) {
     place();

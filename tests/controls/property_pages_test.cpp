@@ -101,6 +101,58 @@ TYPED_TEST(PagesOfAll, AppliedAsTheyAreLeaveTheSettings) {
   EXPECT_EQ(this->settings(), before);
 }
 
+TYPED_TEST(PagesOfAll, KeepTheDataWhereADiameterStays) {
+  this->plot_square();
+  this->control.WaferDiameter(150.123456789012345);  // more digits than its text
+  this->control.TestDiameter(140.1);
+  ASSERT_EQ(this->control.load(sites_near_centre()), 0);
+  this->forget_notices();
+  this->shown_to([&](PropertyDialog& dialog) {
+    this->wafer_page(dialog).showLeg.Value(true);
+    dialog.OKbtn.OnClick();
+  });
+  EXPECT_EQ(sites_of(this->control), sites_near_centre());
+  EXPECT_TRUE(this->control.HideLegend());
+  for (const std::string& change : this->form.changes) EXPECT_FALSE(change.ends_with("Diameter")) << change;
+}
+
+TYPED_TEST(PagesOfAll, WriteEachDiameterThatIsAnother) {
+  this->place();
+  ASSERT_EQ(this->control.load(sites_near_centre()), 0);
+  this->shown_to([&](PropertyDialog& dialog) {
+    this->wafer_page(dialog).txtTestDiameter.Text("150");
+    dialog.OKbtn.OnClick();
+  });
+  EXPECT_EQ(this->control.TestDiameter(), 150);
+  EXPECT_EQ(sites_of(this->control), sites_near_centre());
+  this->shown_to([&](PropertyDialog& dialog) {
+    this->wafer_page(dialog).txtWaferDiameter.Text("300");
+    dialog.OKbtn.OnClick();
+  });
+  EXPECT_EQ(this->control.WaferDiameter(), 300);
+  EXPECT_EQ(sites_of(this->control), SiteColumns{});
+}
+
+TYPED_TEST(PagesOfAll, OfTwoControlsCompareEachWithItsOwnDiameter) {
+  this->place();
+  HeadlessContainer other_form;
+  Open<TypeParam> other(this->toolkit, other_form);
+  other.InitProperties();
+  other.WaferDiameter(150);
+  other.load(sites_near_centre());
+  this->control.load(sites_near_centre());
+  this->toolkit.on_modal = [&](Form& form) {
+    auto& dialog = dynamic_cast<PropertyDialog&>(form);
+    this->wafer_page(dialog).nfbox(2).Value(true);
+    dialog.OKbtn.OnClick();
+  };
+  PropertyDialog(this->toolkit, {this->object(), described(static_cast<TypeParam&>(other))}).Show();
+  EXPECT_EQ(sites_of(this->control), sites_near_centre());
+  EXPECT_EQ(other.WaferDiameter(), 200) << "that of the first control, written to all";
+  EXPECT_EQ(sites_of(other), SiteColumns{});
+  EXPECT_EQ(other.WaferStyle(), WaferSt::Flat);
+}
+
 TYPED_TEST(PagesOfAll, ChangeNothingWhenCancelled) {
   const auto before = this->settings();
   this->shown_to([](PropertyDialog& dialog) {
@@ -126,6 +178,7 @@ TYPED_TEST(PagesOfAll, WithstandRandomTyping) {
   EXPECT_GE(this->control.TestDiameter(), 0);
   for (const HeadlessToolkit::Message& message : this->toolkit.messages)
     EXPECT_EQ(message.text, "Wafer diamter can not be less than test diameter");
+  this->control.WaferDiameter(200);  // a small wafer that was typed has no room for them
   EXPECT_EQ(this->control.load(square_of_sites()), 0);
   EXPECT_EQ(this->control.MousePointer(), 0);
 }

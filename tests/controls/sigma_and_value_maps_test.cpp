@@ -96,6 +96,28 @@ TYPED_TEST(SigmaPlot, ThePlotBringsTheLegendUpToDate) {
   EXPECT_EQ(this->control.lbldist.Caption.get(), "1.5");
 }
 
+TYPED_TEST(SigmaPlot, TheLegendFollowsTheDrawing) {
+  this->control.SigmaRange(1.5);
+  std::string caption_while_drawing;
+  this->toolkit.on_draw = [&](const PictureBox& box, std::string_view) {
+    if (&box == &this->control.PLOTA) caption_while_drawing = this->control.lbldist.Caption;
+  };
+  this->control.Plot();
+  EXPECT_EQ(caption_while_drawing, "0.5");
+  EXPECT_EQ(this->control.lbldist.Caption.get(), "1.5");
+}
+
+TYPED_TEST(SigmaPlot, TheLegendStaysThatOfTheOldPictureWhereTheDrawingFails) {
+  this->control.SigmaRange(1.5);
+  this->control.IntervalColor(1, 0x123456);
+  this->toolkit.on_draw = [](const PictureBox&, std::string_view call) {
+    throw CanvasError(std::string(call));
+  };
+  EXPECT_EQ(this->control.Plot(), 0);
+  EXPECT_EQ(this->control.lbldist.Caption.get(), "0.5");
+  EXPECT_EQ(this->control.scalCol(3).BackColor.get(), 0x008000u);
+}
+
 TYPED_TEST(SigmaPlot, TheBackgroundGoesBehindTheRangeToo) {
   this->control.BackColor(0x123456);
   EXPECT_EQ(this->control.frInt.BackColor.get(), 0x123456u);

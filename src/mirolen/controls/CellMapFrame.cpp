@@ -13,7 +13,8 @@ constexpr double default_resolution = 5;
 }  // namespace
 
 void CellMapFrame::Resolution(double v) {
-  if (!(v > 0)) v = default_resolution;
+  if (!is_finite(v)) return;
+  if (v <= 0) v = default_resolution;
   resolution_ = std::min(v, coarsest());
   look_changed("Resolution");
 }

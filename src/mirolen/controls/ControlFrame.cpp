@@ -1,7 +1,10 @@
 #include "mirolen/controls/ControlFrame.h"
 
 #include <cmath>
+#include <utility>
 
+#include "mirolen/controls/RaisedFlag.h"
+#include "mirolen/controls/arguments.h"
 #include "mirolen/core/GlobalFunctions.h"
 #include "mirolen/dialogs/OptionForm.h"
 #include "mirolen/dialogs/frmAbout.h"
@@ -30,31 +33,41 @@ void ControlFrame::forward_events(Widget& widget) {
   widget.OnMouseUp = [this](const MouseEvent& event) { container_.MouseUp(event); };
 }
 
+void ControlFrame::takes_focus(Button& button) {
+  OnEnterFocus = [this, &button] {
+    if (button.is_seen()) quietly([&] { button.SetFocus(); });
+  };
+}
+
 std::int16_t ControlFrame::SetWaferData(const ArrayView& x, const ArrayView& y, const ArrayView& Z) {
   try {
     const std::int16_t result = GlobalFunctions::LoadSiteArrays(keeps_limits(), wafobj, x, y, Z);
     data_changed();
     return result;
+  } catch (const InvalidArgument&) {  // a number that is not finite: nothing has changed
+    return 4;
   } catch (const std::exception&) {
-    PlotValid = false;  // the drawing stays, but the next one shows what the store holds now
+    leave_undone();
     return 4;
   }
 }
 
 std::int16_t ControlFrame::SetDataFile(const std::string& datafile, double nops) {
+  if (!is_finite(nops)) return 4;
   try {
     const std::int16_t result = GlobalFunctions::LoadSiteFile(keeps_limits(), wafobj, datafile, nops);
     data_changed();
     return result;
   } catch (const std::exception&) {
+    leave_undone();
     return 4;
   }
 }
 
 void ControlFrame::data_changed() {
-  wipe_drawing();
   PlotShown = false;
-  PlotValid = false;
+  PlotValid = false;  // also where the wiping fails
+  wipe_drawing();
   forget_snapshot();
 }
 
@@ -97,8 +110,18 @@ std::int16_t ControlFrame::Plot() {
   if (wafobj.WafDiam == 0) WaferDiameter(default_wafer_diameter);
   if (wafobj.test_diam == 0 || wafobj.test_diam > wafobj.WafDiam) TestDiameter(wafobj.WafDiam);
   fill_in_settings();
-  show_plot();
+  const bool afresh = makes_up();
+  if (afresh) resize_handler();
+  if (!afresh || !PlotValid) show_plot();
   return 0;
+}
+
+/// Whether something has failed since the last plot, so that nobody knows what is shown.
+bool ControlFrame::makes_up() {
+  const bool shown_late = catch_up();
+  if (!std::exchange(undone_, false) && !shown_late) return false;
+  PlotValid = false;
+  return true;
 }
 
 void ControlFrame::ShowPlotOption() {
@@ -107,14 +130,13 @@ void ControlFrame::ShowPlotOption() {
 
 bool ControlFrame::confirmed(OptionForm& form) {
   if (asking_) return false;
-  asking_ = true;
+  const RaisedFlag asking(asking_);
   quietly([&] { form.Show(); });
-  asking_ = false;
   return form.Redraw();
 }
 
 bool ControlFrame::SetPlotLimit(double LPL, double UPL) {
-  if (!std::isfinite(LPL) || !std::isfinite(UPL)) return false;
+  if (!all_finite({LPL, UPL})) return false;
   if (UPL == wafobj.maximal && LPL == wafobj.minimal) return false;
   bool taken = false;
   quietly([&] { taken = GlobalFunctions::ApplyPlotLimit(wafobj, LPL, UPL); });
@@ -147,27 +169,29 @@ double ControlFrame::StdDevPercent() const {
 }
 
 std::int16_t ControlFrame::PrintWaferStatistic(double left, double top, const std::string& units) {
-  wafobj.Meas_unit = units;
-  return print_block([&](PrintWafer& page) { page.DrawWaferStatistics(wafobj, left, top); });
+  if (all_finite({left, top})) wafobj.Meas_unit = units;
+  return print_block({left, top}, [&](PrintWafer& page) { page.DrawWaferStatistics(wafobj, left, top); });
 }
 
 std::int16_t ControlFrame::PrintWaferSize(double left, double top) {
-  return print_block([&](PrintWafer& page) { page.DrawWaferSize(wafobj, left, top); });
+  return print_block({left, top}, [&](PrintWafer& page) { page.DrawWaferSize(wafobj, left, top); });
 }
 
 void ControlFrame::WaferDiameter(double v) {
+  if (!is_finite(v)) return;
   wafobj.reset();
   quietly([&] { wipe_drawing(); });
   forget_snapshot();
   PlotShown = false;
-  wafobj.WafDiam = is_finite(v) && v > 0 ? v : default_wafer_diameter;
+  wafobj.WafDiam = v > 0 ? v : default_wafer_diameter;
   wafobj.WaferOrigRad = wafobj.WafDiam / 2;
   Refresh();
   notify("WaferDiameter");
 }
 
 void ControlFrame::TestDiameter(double v) {
-  if (!is_finite(v) || v < 0) v = wafobj.WafDiam;
+  if (!is_finite(v)) return;
+  if (v < 0) v = wafobj.WafDiam;
   if (wafobj.test_diam > v && wafobj.GetNop() > 0)
     quietly([&] { GlobalFunctions::ClipToTestDiameter(keeps_limits(), wafobj, v); });
   wafobj.test_diam = v;
@@ -188,21 +212,24 @@ void ControlFrame::About() {
 }
 
 std::int32_t ControlFrame::hwnd() const {
-  return peer() ? static_cast<std::int32_t>(static_cast<std::uint32_t>(peer()->handle())) : 0;
+  try {
+    return peer() ? static_cast<std::int32_t>(static_cast<std::uint32_t>(peer()->handle())) : 0;
+  } catch (...) {  // a peer may throw anything
+    return 0;
+  }
 }
 
 void ControlFrame::resize_to(double width, double height) {
-  if (sizing_itself_) return;
+  if (sizing_itself_ || !fits<std::int32_t>(width) || !fits<std::int32_t>(height)) return;
   Width = width;
   Height = height;
   resize_handler();
 }
 
 void ControlFrame::raise_size(const SurfaceSize& least) {
-  sizing_itself_ = true;
+  const RaisedFlag sizing(sizing_itself_);
   if (Width < least.width) Width = least.width;
   if (Height < least.height) Height = least.height;
-  sizing_itself_ = false;
 }
 
 void ControlFrame::resize_handler() {

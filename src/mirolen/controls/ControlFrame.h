@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -19,9 +20,19 @@ class OptionForm;
 /// What all plot controls share: their wafer, its data, limits, statistics and diameters, and their notices.
 ///
 /// The order for a host: `WaferDiameter` (it empties the store), `TestDiameter`, `SetWaferData` or
-/// `SetDataFile`, the looks, `Plot`. A setter never redraws: `Plot` does, or the next change of size. No
-/// member throws; errors are told by results, and where a result has no room for them they end the member
-/// quietly. Numbers that are not finite count as missing: the member takes its default.
+/// `SetDataFile`, the looks, `Plot`. A setter never redraws: `Plot` does, or the next change of size.
+///
+/// Numbers. A member that is given NaN or an infinity, or a number beyond the 16 or 32 bits of its place,
+/// changes nothing, tells nothing, and answers its failure where it has a result. Reading a property never
+/// fails.
+///
+/// Errors. What prints throws RunTimeError where that fails, what its page throws, and std::bad_alloc. No
+/// other member lets out a std::exception of pictures, of peers or of memory: it is told by the result, or,
+/// where that has no room for it, ends the member with what is done so far. The mouse pointer is put back,
+/// and once the failure has gone the next `Plot` draws all afresh. What is thrown by the host's own code,
+/// which runs in a notice, an event, a form or a message, leaves the control in order too; it comes back to
+/// the host out of a notice or an event, and everywhere unless it is a std::exception. Making a control may
+/// throw what its toolkit does.
 class ControlFrame : public UserControl {
  public:
   // ---- Data ----
@@ -34,8 +45,8 @@ class ControlFrame : public UserControl {
   std::int16_t SetWaferData(const ArrayView& x, const ArrayView& y, const ArrayView& Z);
   /// Loads nops sites from a binary file: all x, all y, all z as little-endian doubles, without a header. A
   /// file that is too short counts as filled up with zeros. The drawing is wiped and the data before are
-  /// gone, also on
-  /// 4. @return 0 loaded; 4 any failure.
+  /// gone, also on 4; but for a nops that is not finite, which changes nothing. @return 0 loaded; 4 any
+  /// failure.
   std::int16_t SetDataFile(const std::string& datafile, double nops);
   /// Fills the arrays, resized to (1 To n), with the sites. @return n; with 0 the arrays stay as they are.
   double GetWaferData(Array& x, Array& y, Array& Z) const;
@@ -105,7 +116,8 @@ class ControlFrame : public UserControl {
 
   // ---- Printing, at places in twips of the page (1/1440 inch) ----
   // The host starts and ends the job and its pages, and calls for one piece of a page after the other.
-  // Nothing is printed without data or without a `PrinterObj`. These throw RunTimeError where that fails.
+  // Nothing is printed without data or without a `PrinterObj`. These throw RunTimeError where that fails, and
+  // InvalidArgument, before anything is printed, for a place that is not finite.
 
   /// What the print members draw on: the system's printer, which they look for, or the host's; may be null.
   std::shared_ptr<PlotCanvas> PrinterObj;
@@ -133,7 +145,8 @@ class ControlFrame : public UserControl {
   static constexpr SurfaceSize usual_size{6900, 4800};
   /// The size that a control takes by itself where its form gives it less, in twips.
   virtual SurfaceSize smallest_size() const = 0;
-  /// Takes a size in twips and lays the control out, as a change of size by the host's form does.
+  /// Takes a size in twips, of 32 bits, and lays the control out, as a change of size by the host's form
+  /// does.
   void resize_to(double width, double height);
 
   /// The control's store and renderer, for a host that needs more than the properties; never replaced.
@@ -172,31 +185,41 @@ class ControlFrame : public UserControl {
   void raise_size(const SurfaceSize& least);
   /// Whether there is something to print, and something to print on.
   bool can_print() const { return wafobj.GetNop() > 0 && PrinterObj && PrinterObj->present(); }
-  /// Calls print(page) for a plot if the control has at least this size. @return as `PrintPlot`.
+  /// Numbers that tell a place on the page.
+  using Place = std::initializer_list<double>;
+  /// Calls print(page). @throws InvalidArgument for a place that is not finite.
   template <class Print>
-  std::int16_t print_plot(double least_width, double least_height, Print print) {
+  void print_at(Place place, Print print) const {
+    refuse_unless_finite(place, translatable("a place on the page"));
+    PrintWafer page{PrinterObj};
+    print(page);
+  }
+  /// The same for a plot if the control has at least this size. @return as `PrintPlot`.
+  template <class Print>
+  std::int16_t print_plot(Place place, double least_width, double least_height, Print print) const {
     if (!can_print()) return 2;
     if (ScaleWidth() < least_width || ScaleHeight() < least_height) return 1;
-    PrintWafer page{PrinterObj};
-    print(page);
+    print_at(place, print);
     return 0;
   }
-  /// Calls print(page) for a block. @return as `PrintWaferStatistic`.
+  /// The same for a block. @return as `PrintWaferStatistic`.
   template <class Print>
-  std::int16_t print_block(Print print) const {
+  std::int16_t print_block(Place place, Print print) const {
     if (!can_print()) return 1;
-    PrintWafer page{PrinterObj};
-    print(page);
+    print_at(place, print);
     return 0;
   }
-  /// Runs a step whose error the host is not told.
+  /// Runs a step whose error the host is not told. The next plot makes up for what is left undone.
   template <class Step>
-  static void quietly(Step step) {
+  void quietly(Step step) {
     try {
       step();
     } catch (const std::exception&) {
+      leave_undone();
     }
   }
+  /// Lets the next plot lay out and draw all.
+  void leave_undone() { undone_ = true; }
   /// The colour that a field of the wafer carries; black where the host has left it no number.
   static Color color_in(double field) { return is_finite(field) ? to_color(field) : 0; }
   /// What a setter of a look ends with.
@@ -204,6 +227,8 @@ class ControlFrame : public UserControl {
   void notify(const char* property) { container_.changed(property); }
   /// Hands the events of a widget on to the host.
   void forward_events(Widget& widget);
+  /// Gives the control's focus to a button, where the user sees it.
+  void takes_focus(Button& button);
   Container& host() { return container_; }
 
   bool PlotLimitSet = false;  ///< A limit of `SetPlotLimit` is in force.
@@ -214,10 +239,12 @@ class ControlFrame : public UserControl {
  private:
   void data_changed();
   void limits_changed();
+  bool makes_up();
 
   Container& container_;
   bool sizing_itself_ = false;
   bool asking_ = false;
+  bool undone_ = false;  ///< A step has failed, and what it should have shown may be missing.
 };
 
 }  // namespace mirolen

@@ -1,6 +1,7 @@
 #include "mirolen/controls/Histogram.h"
 
 #include "mirolen/controls/Hourglass.h"
+#include "mirolen/controls/arguments.h"
 #include "mirolen/dialogs/frmPlotHist.h"
 #include "mirolen/render/ControlLimits.h"
 
@@ -16,9 +17,7 @@ Histogram::Histogram(Toolkit& toolkit, Container& container) : ControlFrame(tool
   wafobj.ColS1 = QBColor(4);
   wafobj.ColS2 = QBColor(2);
   forward_events(frmhist);
-  OnEnterFocus = [this] {
-    if (Command1.Visible) Command1.SetFocus();
-  };
+  takes_focus(Command1);
   Command1.OnClick = [this] { ShowPlotOption(); };
   Command1.Move(0, 0, 1935, 420);
   PLOTA.Move(900, 150, 3000, 2000);
@@ -36,7 +35,9 @@ void Histogram::PlotType(PlotTyEnum v) {
 }
 
 void Histogram::Resolution(double v) {
-  quietly([&] { resolution_ = v == 0 ? default_classes : to_int16(v); });
+  if (!fits<std::int16_t>(v)) return;
+  resolution_ = to_int16(v);
+  if (resolution_ == 0) resolution_ = default_classes;
   look_changed("Resolution");
 }
 
@@ -78,7 +79,7 @@ void Histogram::clear() {
 }
 
 bool Histogram::SetPlotLimit(double LPL, double UPL) {
-  if (!is_finite(LPL) || !is_finite(UPL)) return false;
+  if (!all_finite({LPL, UPL})) return false;
   set_limits(true, LPL, UPL);
   return true;
 }
@@ -95,6 +96,7 @@ void Histogram::set_limits(bool set, double low, double high) {
 }
 
 void Histogram::SetChartDim(double topC, double heightC) {
+  if (!all_finite({topC, heightC})) return;
   ChartTop = topC;
   ChartHeight = heightC;
   resize_handler();
@@ -102,7 +104,9 @@ void Histogram::SetChartDim(double topC, double heightC) {
 
 void Histogram::Borderstyle(std::int16_t Bstyle) { frmhist.Border = Bstyle != 0; }
 
-void Histogram::ShowControlLimit(double LCLs, double UCLs) { control_limits() = {true, LCLs, UCLs}; }
+void Histogram::ShowControlLimit(double LCLs, double UCLs) {
+  if (all_finite({LCLs, UCLs})) control_limits() = {true, LCLs, UCLs};
+}
 
 void Histogram::ResetControlLimit() { control_limits().ShowCL = false; }
 
@@ -181,24 +185,23 @@ void Histogram::place_lines() {
 }
 
 template <class Print>
-std::int16_t Histogram::print_chart(Print print) {
+std::int16_t Histogram::print_chart(Place place, Print print) const {
   constexpr double least = 100;
   if (!can_print()) return 1;
   if (ScaleWidth() < least || ScaleHeight() < least) return 2;
-  PrintWafer page{PrinterObj};
-  print(page);
+  print_at(place, print);
   return 0;
 }
 
 std::int16_t Histogram::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
-  return print_chart([&](PrintWafer& page) {
+  return print_chart({left, top, width, height}, [&](PrintWafer& page) {
     page.Print_Histo(static_cast<std::int16_t>(plot_type_), wafobj, left, top, width, height, resolution_, 0,
                      frmhist.Caption, DrawFrame);
   });
 }
 
 std::int16_t Histogram::PrintPlot_THN(double left, double top, double width, double height) {
-  return print_chart([&](PrintWafer& page) {
+  return print_chart({left, top, width, height}, [&](PrintWafer& page) {
     page.Print_Histo_THN(static_cast<std::int16_t>(plot_type_), wafobj, left, top, width, height, resolution_,
                          0, frmhist.Caption);
   });

@@ -16,11 +16,11 @@ class Histogram : public ControlFrame {
   /// Where the base line lies; a value that there is not becomes vbbottom.
   void PlotType(PlotTyEnum v);
   double Resolution() const { return resolution_; }
-  /// Number of classes, rounded to 16 bits; 0 becomes 10.
+  /// Number of classes, rounded to 16 bits; what rounds to 0 becomes 10.
   void Resolution(double v);
-  Color BeamColor() const { return to_color(wafobj.ColS2); }
+  Color BeamColor() const { return color_in(wafobj.ColS2); }
   void BeamColor(Color v);
-  Color GaussCurveColor() const { return to_color(wafobj.ColS1); }
+  Color GaussCurveColor() const { return color_in(wafobj.ColS1); }
   void GaussCurveColor(Color v);
 
   using ControlFrame::BackColor;
@@ -32,7 +32,7 @@ class Histogram : public ControlFrame {
 
   /// Sets the limits that the chart marks, in any order, and draws at once if there is a plot. The scale
   /// stays.
-  /// @return true.
+  /// @return true for numbers.
   bool SetPlotLimit(double LPL, double UPL) override;
   void ReleasePlotLimit() override;
 
@@ -79,7 +79,7 @@ class Histogram : public ControlFrame {
   void place_lines();
   void RedrawPlot();
   template <class Print>
-  std::int16_t print_chart(Print print);
+  std::int16_t print_chart(Place place, Print print) const;
   void set_limits(bool set, double low, double high);
 
   PlotTyEnum plot_type_ = PlotTyEnum::vbbottom;

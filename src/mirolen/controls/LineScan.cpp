@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "mirolen/controls/Hourglass.h"
+#include "mirolen/controls/RaisedFlag.h"
+#include "mirolen/controls/arguments.h"
 #include "mirolen/core/translation.h"
 #include "mirolen/dialogs/input_checks.h"
 
@@ -38,9 +40,7 @@ void MarkArray::show(int mark, double left, double top, const std::string& tool_
 
 LineScan::LineScan(Toolkit& toolkit, Container& container) : ControlFrame(toolkit, container) {
   forward_events(PlotFrame);
-  OnEnterFocus = [this] {
-    if (btnoptions.Visible) btnoptions.SetFocus();
-  };
+  takes_focus(btnoptions);
   btnoptions.OnClick = [this] { ShowPlotOption(); };
   AngleValue.OnChange = [this] {
     quietly([&] { angle_text_changed(); });
@@ -86,6 +86,7 @@ void LineScan::place_children() {
 }
 
 void LineScan::PlotType(PlotTypeEnumLineScan v) {
+  if (!fits_16_bits(v)) return;
   plot_type_ = v;
   show_panels();
   look_changed("PlotType");
@@ -98,8 +99,10 @@ void LineScan::show_panels() {
 
 void LineScan::angle(std::int16_t v) {
   if (v < 0 || v > full_turn) {
-    toolkit().message_box(tr("Angle value must be between 0 and 359"), tr("Input Error"),
-                          MessageIcon::critical);
+    quietly([&] {
+      toolkit().message_box(tr("Angle value must be between 0 and 359"), tr("Input Error"),
+                            MessageIcon::critical);
+    });
     return;
   }
   const std::int16_t told = told_angle_;
@@ -124,6 +127,9 @@ void LineScan::ShowSites(bool v) {
 
 void LineScan::SetLineOrAngle(PlotTypeEnumLineScan PlotType, std::int16_t angle, double AngleX, double AngleY,
                               double StartX, double StartY, double EndX, double EndY) {
+  if (!fits_16_bits(PlotType)) return;
+  for (const double coordinate : {AngleX, AngleY, StartX, StartY, EndX, EndY})
+    if (!fits<std::int16_t>(coordinate)) return;
   plot_type_ = PlotType;
   show_panels();
   if (line_mode()) {
@@ -188,7 +194,7 @@ void LineScan::clear() {
 }
 
 void LineScan::PlotCaption(const std::string& v) {
-  PlotFrame.Caption = v;
+  quietly([&] { PlotFrame.Caption = v; });
   look_changed("PlotCaption");
 }
 
@@ -235,15 +241,15 @@ void LineScan::redraw_line() {
   PLOTA.Cls();
   write_labels();
   show_outline();
-  wafobj.draw_indicator(Line1, Picture2, static_cast<std::int16_t>(plot_type_), angle_, rotation_x_,
-                        rotation_y_, start_x_, start_y_, end_x_, end_y_, Picture1);
+  wafobj.draw_indicator(Line1, Picture2, mode(), angle_, rotation_x_, rotation_y_, start_x_, start_y_, end_x_,
+                        end_y_, Picture1);
   draw_curve(false);
 }
 
 void LineScan::draw_by_angle() {
   PLOTA.Cls();
-  wafobj.draw_indicator(FNLine, picplus, static_cast<std::int16_t>(plot_type_), angle_, rotation_x_,
-                        rotation_y_, start_x_, start_y_, end_x_, end_y_, FNPic);
+  wafobj.draw_indicator(FNLine, picplus, mode(), angle_, rotation_x_, rotation_y_, start_x_, start_y_, end_x_,
+                        end_y_, FNPic);
   write_labels();
   if (wafobj.GetNop() > 0) draw_curve(true);
 }
@@ -260,19 +266,23 @@ void LineScan::draw_curve(bool by_angle) {
 }
 
 void LineScan::write_labels() {
-  wafobj.D1Plot_Show_lblXY(lblX.as<CaptionLabel>(), lblY.as<CaptionLabel>(),
-                           static_cast<std::int16_t>(plot_type_), angle_, rotation_x_, rotation_y_, start_x_,
-                           start_y_, end_x_, end_y_);
+  wafobj.D1Plot_Show_lblXY(lblX.as<CaptionLabel>(), lblY.as<CaptionLabel>(), mode(), angle_, rotation_x_,
+                           rotation_y_, start_x_, start_y_, end_x_, end_y_);
 }
 
 void LineScan::angle_text_changed() {
   const std::string text = AngleValue.Text();
   if (!IsInRangeOrOpen(text, -1, full_turn) || !IsPlainInteger(text)) return AngleValue.Text("0");
   angle_ = to_int16(number_in(text));
-  emptied_ = text.empty();  // an emptied field stays empty, though the spinner goes to 0
-  UpDown1.Value(angle_);
-  emptied_ = false;
+  turn_spinner();
   draw_by_angle();
+}
+
+/// An emptied field stays empty, though the spinner goes to 0.
+void LineScan::turn_spinner() {
+  if (!AngleValue.Text().empty()) return UpDown1.Value(angle_);
+  const RaisedFlag emptied(emptied_);
+  UpDown1.Value(angle_);
 }
 
 void LineScan::angle_key(int key) {
@@ -291,7 +301,7 @@ void LineScan::angle_key(int key) {
 }
 
 void LineScan::lay_out() {
-  const ResumeNext resume([] {});
+  const ResumeNext resume([this] { leave_undone(); });
   constexpr double strip = 1400;
   raise_size(smallest_size());
   PlotFrame.Move(0, 0, ScaleWidth(), LegendShown ? ScaleHeight() - strip : ScaleHeight());
@@ -301,18 +311,18 @@ void LineScan::lay_out() {
     btnoptions.Move(ScaleWidth() - btnoptions.Width, FNLabel(0).Top + FNLabel(0).Height - btnoptions.Height);
   }
   lay_out_chart();
-  if (PlotShown) resume([&] { draw_curve(plot_type_ == PlotTypeEnumLineScan::vbAngle); });
+  if (PlotShown) resume([&] { draw_curve(!line_mode()); });
 }
 
 /// The width of the topmost label decides the room of the chart.
 double LineScan::left_of_chart() {
-  const ResumeNext resume([] {});
+  const ResumeNext resume([this] { leave_undone(); });
   resume([&] { lblY(4).Caption = wafobj.scan_label(wafobj.maximal); });
   return lblY(4).Left + lblY(4).Width + 50;
 }
 
 void LineScan::lay_out_chart() {
-  const ResumeNext resume([] {});
+  const ResumeNext resume([this] { leave_undone(); });
   const double left = left_of_chart();
   PLOTA.Move(left, {}, PlotFrame.Width - (left + 200), PlotFrame.Height - 1025);
   plus.Move(PLOTA.Left, PLOTA.Top);
@@ -334,10 +344,9 @@ void LineScan::place_labels() {
 }
 
 std::int16_t LineScan::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
-  return print_plot(4000, 2850, [&](PrintWafer& page) {
-    page.Print_1DPlot(wafobj, angle_, static_cast<std::int16_t>(plot_type_), rotation_x_, rotation_y_,
-                      start_x_, start_y_, end_x_, end_y_, show_sites_, PlotCaption(), left, top, width,
-                      height, DrawFrame);
+  return print_plot({left, top, width, height}, 4000, 2850, [&](PrintWafer& page) {
+    page.Print_1DPlot(wafobj, angle_, mode(), rotation_x_, rotation_y_, start_x_, start_y_, end_x_, end_y_,
+                      show_sites_, PlotCaption(), left, top, width, height, DrawFrame);
   });
 }
 

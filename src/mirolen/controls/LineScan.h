@@ -32,13 +32,13 @@ class LineScan : public ControlFrame {
   LineScan(Toolkit& toolkit, Container& container);
 
   PlotTypeEnumLineScan PlotType() const { return plot_type_; }
-  /// Shows the panel of the mode: that of the line for vbline, that of the angle for anything else.
+  /// Another number than those of the modes is kept, if 16 bits hold it, and counts as vbAngle.
   void PlotType(PlotTypeEnumLineScan v);
   std::int16_t angle() const { return angle_; }
   /// Degrees, 0 to 360 (which is 0); another value is refused with a message. Draws at once.
   void angle(std::int16_t v);
 
-  // Millimetres; the next plot shows them.
+  // Millimetres, rounded to 16 bits; the next plot shows them.
   std::int16_t RotationPointX() const { return to_int16(rotation_x_); }
   void RotationPointX(std::int16_t v) { set_point(rotation_x_, v, "RotationPointX"); }
   std::int16_t RotationPointY() const { return to_int16(rotation_y_); }
@@ -56,7 +56,8 @@ class LineScan : public ControlFrame {
   /// Marks the sites that lie on the line.
   void ShowSites(bool v);
 
-  /// Takes the mode and, for the angle, angle and point, for the line its two points.
+  /// Takes the mode and, for the angle, angle and point, for the line its two points; all of them within 16
+  /// bits, also those that the mode does not take.
   void SetLineOrAngle(PlotTypeEnumLineScan PlotType, std::int16_t angle, double AngleX, double AngleY,
                       double StartX, double StartY, double EndX, double EndY);
   /// Gives what `SetLineOrAngle` takes, in the mode in force; the point of the angle as the start. @return 0.
@@ -69,7 +70,7 @@ class LineScan : public ControlFrame {
   void HideLegend(bool v) override;
   void BackColor(Color v) override;
   void clear() override;
-  std::string PlotCaption() const { return PlotFrame.Caption; }
+  const std::string& PlotCaption() const { return PlotFrame.Caption; }
   void PlotCaption(const std::string& v);
 
   std::int16_t PrintPlot(double left, double top, double width, double height,
@@ -121,12 +122,18 @@ class LineScan : public ControlFrame {
   void write_labels();
   void tell_angle();
   void angle_text_changed();
+  void turn_spinner();
   void angle_key(int key);
   double left_of_chart();
   void lay_out_chart();
   void place_labels();
   void take_line(const frmPlotOpt1D& form);
   bool line_mode() const { return plot_type_ == PlotTypeEnumLineScan::vbline; }
+  /// The mode as the renderers take it.
+  std::int16_t mode() const {
+    return static_cast<std::int16_t>(line_mode() ? PlotTypeEnumLineScan::vbline
+                                                 : PlotTypeEnumLineScan::vbAngle);
+  }
 
   PlotTypeEnumLineScan plot_type_ = PlotTypeEnumLineScan::vbAngle;
   std::int16_t angle_ = 0, told_angle_ = 0;

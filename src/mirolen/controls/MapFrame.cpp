@@ -5,6 +5,7 @@
 
 #include "mirolen/controls/Hourglass.h"
 #include "mirolen/render/ColorScale.h"
+#include "mirolen/render/PlotArea.h"
 
 namespace mirolen {
 namespace {
@@ -16,9 +17,7 @@ constexpr double row_height = 210;
 MapFrame::MapFrame(Toolkit& toolkit, Container& container) : ControlFrame(toolkit, container) {
   forward_events(Frplot);
   forward_events(frmove);
-  OnEnterFocus = [this] {
-    if (Command1.Visible) Command1.SetFocus();
-  };
+  takes_focus(Command1);
   Command1.OnClick = [this] { ShowPlotOption(); };
   place_children();
 }
@@ -100,7 +99,7 @@ void MapFrame::take_background(Color v) {
 }
 
 void MapFrame::PlotCaption(const std::string& v) {
-  Frplot.Caption = v;
+  quietly([&] { Frplot.Caption = v; });
   look_changed("PlotCaption");
 }
 
@@ -141,7 +140,7 @@ bool MapFrame::lay_out_legend() {
 
   size_legend();
   frmove.Left = ScaleWidth() - frmove.Width;
-  plot_side_ = to_int16(std::min(ScaleWidth() - frmove.Width, ScaleHeight()));
+  plot_side_ = to_int32(std::min(ScaleWidth() - frmove.Width, ScaleHeight()));
   return true;
 }
 
@@ -164,7 +163,7 @@ bool MapFrame::lay_out_bare() {
     raise_size(smallest_size());
     return false;
   }
-  plot_side_ = to_int16(std::min(ScaleWidth(), ScaleHeight()));
+  plot_side_ = to_int32(std::min(ScaleWidth(), ScaleHeight()));
   return true;
 }
 
@@ -176,9 +175,12 @@ void MapFrame::RedrawPlot() {
   prepare_redraw();
   show_orientation();
   Refresh();
+  const std::int64_t failures = PlotArea::canvas_failures();
   draw_plot();
-  PlotValid = true;
+  if (PlotArea::canvas_failures() != failures)
+    leave_undone();  // a renderer leaves out what fails, and goes on
   keep_snapshot();
+  PlotValid = true;
 }
 
 void MapFrame::fill_legend() { wafobj.scale_colored(scalCol.as<ColorBox>(), ScaleValue.as<ValueLabel>()); }
@@ -196,7 +198,8 @@ Color MapFrame::IntervalColor(int interval) const {
 }
 
 std::int16_t MapFrame::PrintLegend(double& left, double& top, bool DrawFrame) {
-  return print_block([&](PrintWafer& page) { page.DrawColoredLegend(wafobj, left, top, DrawFrame); });
+  return print_block({left, top},
+                     [&](PrintWafer& page) { page.DrawColoredLegend(wafobj, left, top, DrawFrame); });
 }
 
 void MapFrame::IntervalColor(int interval, Color v) {

@@ -18,7 +18,7 @@ class MapFrame : public ControlFrame {
   void clear() override;
   void HideLegend(bool v) override;
   void BackColor(Color v) override;
-  std::string PlotCaption() const { return Frplot.Caption; }
+  const std::string& PlotCaption() const { return Frplot.Caption; }
   void PlotCaption(const std::string& v);
 
   /// Prints the legend, by DrawFrame in a frame 2775 twips wide. left and top stay, but for the sigma plots,
@@ -76,10 +76,6 @@ class MapFrame : public ControlFrame {
   virtual void give_up_size() {}
   /// Takes the background that the user has chosen for the plot, for all surfaces.
   void take_background(Color v);
-  /// Runs RedrawPlot; an error ends it without a word.
-  void redraw_quietly() {
-    quietly([&] { RedrawPlot(); });
-  }
   /// Makes the legend's frame higher and moves what stands under it, while the control is made.
   void make_room_in_legend(double twips);
   /// The size that printing a map takes.
@@ -92,7 +88,7 @@ class MapFrame : public ControlFrame {
   bool too_small() const;
   bool lay_out_legend();
   bool lay_out_bare();
-  double plot_side_ = 0;
+  std::int32_t plot_side_ = 0;
 };
 
 }  // namespace mirolen

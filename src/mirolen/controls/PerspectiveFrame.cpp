@@ -102,7 +102,12 @@ void PerspectiveFrame::take_angle(std::int16_t& angle, std::int16_t v, const cha
 }
 
 void PerspectiveFrame::end_drag(const MouseEvent& event) {
-  host().MouseUp(event);
+  try {
+    host().MouseUp(event);
+  } catch (...) {
+    Dragging = false;
+    throw;
+  }
   Dragging = false;
   resize_handler();
 }

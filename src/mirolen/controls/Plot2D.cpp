@@ -22,13 +22,13 @@ void Plot2D::draw_plot() {
 }
 
 std::int16_t Plot2D::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
-  return print_plot(least_map, least_map, [&](PrintWafer& page) {
+  return print_plot({left, top, width, height}, least_map, least_map, [&](PrintWafer& page) {
     page.Print_2DPlot(wafobj, left, top, width, height, Resolution(), PlotCaption(), marks(), DrawFrame);
   });
 }
 
 std::int16_t Plot2D::PrintGridPlot(double left, double top, double width, double height) {
-  return print_plot(least_map, least_map, [&](PrintWafer& page) {
+  return print_plot({left, top, width, height}, least_map, least_map, [&](PrintWafer& page) {
     page.Print_GridPosPlot(wafobj, left, top, width, height, PlotCaption());
   });
 }

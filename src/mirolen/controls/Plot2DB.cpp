@@ -5,27 +5,16 @@
 namespace mirolen {
 namespace {
 
-constexpr double default_footprint = 5, default_scale = 1;
-
-double finite_or(double fallback, double v) { return is_finite(v) ? v : fallback; }
+constexpr double default_footprint = 5;
 
 }  // namespace
 
 Plot2DB::Plot2DB(Toolkit& toolkit, Container& container) : PerspectiveFrame(toolkit, container) { realize(); }
 
-void Plot2DB::BeamWidth(double v) {
-  beam_width_ = finite_or(default_footprint, v);
-  look_changed("BeamWidth");
-}
-
-void Plot2DB::BeamHeight(double v) {
-  beam_height_ = finite_or(default_footprint, v);
-  look_changed("BeamHeight");
-}
-
-void Plot2DB::BeamScale(double v) {
-  beam_scale_ = finite_or(default_scale, v);
-  look_changed("BeamScale");
+void Plot2DB::set_size(double& size, double v, const char* property) {
+  if (!is_finite(v)) return;
+  size = v;
+  look_changed(property);
 }
 
 void Plot2DB::InitProperties() {
@@ -54,7 +43,7 @@ void Plot2DB::draw_view(bool) {
 }
 
 std::int16_t Plot2DB::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
-  return print_plot(least_width, least_height, [&](PrintWafer& page) {
+  return print_plot({left, top, width, height}, least_width, least_height, [&](PrintWafer& page) {
     page.Print_2DBPlot(wafobj, left, top, width, height, beam_width_, beam_height_, beam_scale_,
                        GridRotation(), WaferRotation(), GridInclination(), PlotCaption(), DrawFrame);
   });

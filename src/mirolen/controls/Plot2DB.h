@@ -9,14 +9,14 @@ class Plot2DB : public PerspectiveFrame {
  public:
   Plot2DB(Toolkit& toolkit, Container& container);
 
-  // Footprint of a bar in millimetres; a number that is not finite becomes 5.
+  // Footprint of a bar in millimetres.
   double BeamWidth() const { return beam_width_; }
-  void BeamWidth(double v);
+  void BeamWidth(double v) { set_size(beam_width_, v, "BeamWidth"); }
   double BeamHeight() const { return beam_height_; }
-  void BeamHeight(double v);
+  void BeamHeight(double v) { set_size(beam_height_, v, "BeamHeight"); }
   double BeamScale() const { return beam_scale_; }
-  /// Height of a bar, millimetres a unit of value; a number that is not finite becomes 1.
-  void BeamScale(double v);
+  /// Height of a bar, millimetres a unit of value.
+  void BeamScale(double v) { set_size(beam_scale_, v, "BeamScale"); }
 
   std::int16_t PrintPlot(double left, double top, double width, double height,
                          bool DrawFrame = false) override;
@@ -31,6 +31,8 @@ class Plot2DB : public PerspectiveFrame {
   void draw_view(bool coarse) override;
 
  private:
+  void set_size(double& size, double v, const char* property);
+
   double beam_width_ = 0, beam_height_ = 0, beam_scale_ = 0;
 };
 

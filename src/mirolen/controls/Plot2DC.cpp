@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "mirolen/controls/arguments.h"
 #include "mirolen/dialogs/frmPlotOpt2DC.h"
 #include "mirolen/render/ContourInterval.h"
 #include "mirolen/render/Screen.h"
@@ -20,7 +21,7 @@ class MessagesThrough {
       toolkit.message_box(text, title, MessageIcon::none);
     };
   }
-  ~MessagesThrough() { screen().message = before_; }
+  ~MessagesThrough() { screen().message.swap(before_); }
   MessagesThrough(const MessagesThrough&) = delete;
   MessagesThrough& operator=(const MessagesThrough&) = delete;
 
@@ -50,7 +51,8 @@ Plot2DC::Plot2DC(Toolkit& toolkit, Container& container) : MapFrame(toolkit, con
 }
 
 void Plot2DC::Interval(double v) {
-  interval_ = is_finite(v) && v > 0 ? v : default_interval;
+  if (!is_finite(v)) return;
+  interval_ = v > 0 ? v : default_interval;
   look_changed("Interval");
 }
 
@@ -60,21 +62,24 @@ void Plot2DC::IntervalInPercent(std::int16_t v) {
 }
 
 void Plot2DC::MeasurementUnit(const std::string& v) {
-  measurement_unit_ = v;
+  quietly([&] { measurement_unit_ = v; });
   look_changed("MeasurementUnit");
 }
 
 void Plot2DC::marksites(ExconEnum v) {
+  if (!fits_16_bits(v)) return;
   marksites_ = v;
   look_changed("marksites");
 }
 
 void Plot2DC::Resolution(ResoEnum v) {
+  if (!fits_16_bits(v)) return;
   resolution_ = v;
   look_changed("Resolution");
 }
 
 void Plot2DC::PlotColored(DrawColEnum v) {
+  if (!fits_16_bits(v)) return;
   plot_colored_ = v;
   place_legend();
   look_changed("PlotColored");
@@ -134,6 +139,14 @@ void Plot2DC::fill_in_settings() {
 }
 
 double Plot2DC::distance() const {
+  try {
+    return drawn_distance();
+  } catch (const RunTimeError&) {
+    return 0;
+  }
+}
+
+double Plot2DC::drawn_distance() const {
   return interval_in_percent_ == 0 ? interval_ : contour_interval_in_percent(wafobj, range(), interval_);
 }
 
@@ -149,13 +162,13 @@ void Plot2DC::draw_plot() {
   show_interval();
   const std::int16_t radius = to_int16(std::min(PLOTA.ScaleWidth(), PLOTA.ScaleHeight()) / 2 - 5);
   const MessagesThrough messages(toolkit());
-  wafobj.D2Contour(PLOTA, radius, distance(), static_cast<std::int16_t>(marksites_),
+  wafobj.D2Contour(PLOTA, radius, drawn_distance(), static_cast<std::int16_t>(marksites_),
                    static_cast<std::int16_t>(resolution_), static_cast<std::int16_t>(plot_colored_), 0, 0, 0,
                    0, 0);
 }
 
 std::int16_t Plot2DC::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
-  return print_plot(least_map, least_map, [&](PrintWafer& page) {
+  return print_plot({left, top, width, height}, least_map, least_map, [&](PrintWafer& page) {
     // Paper and screen show the same curves: the property's 0 says percent.
     const bool in_percent = interval_in_percent_ == 0;
     const MessagesThrough messages(toolkit());
@@ -166,7 +179,7 @@ std::int16_t Plot2DC::PrintPlot(double left, double top, double width, double he
 }
 
 std::int16_t Plot2DC::PrintPlot_THN(double left, double top, double width, double height, bool DrawFrame) {
-  return print_plot(least_map, least_map, [&](PrintWafer& page) {
+  return print_plot({left, top, width, height}, least_map, least_map, [&](PrintWafer& page) {
     std::string no_text;
     const MessagesThrough messages(toolkit());
     page.Print_Contour_THN(wafobj, left, top, width, height, interval_, interval_in_percent_ != 0,

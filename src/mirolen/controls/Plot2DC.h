@@ -15,9 +15,10 @@ class Plot2DC : public MapFrame {
   std::int16_t IntervalInPercent() const { return interval_in_percent_; }
   /// 0: the interval is in percent. Any other value: it is in the unit of the measurement.
   void IntervalInPercent(std::int16_t v);
-  std::string MeasurementUnit() const { return measurement_unit_; }
+  const std::string& MeasurementUnit() const { return measurement_unit_; }
   /// Text of the unit beside the interval.
   void MeasurementUnit(const std::string& v);
+  // A number that has no name in its enumeration is kept, if 16 bits hold it.
   ExconEnum marksites() const { return marksites_; }
   void marksites(ExconEnum v);
   ResoEnum Resolution() const { return resolution_; }
@@ -36,7 +37,8 @@ class Plot2DC : public MapFrame {
   Color LowerCurveColor() const { return color_in(wafobj.ColS3); }
   void LowerCurveColor(Color v);
 
-  /// The spacing in percent of the mean, or of what stands in for a mean of 0, that `Interval` comes to.
+  /// The spacing in percent of the mean, or of what stands in for a mean of 0, that `Interval` comes to; 0
+  /// where that is beyond a Double.
   double distance() const;
 
   std::int16_t PrintPlot(double left, double top, double width, double height,
@@ -66,6 +68,7 @@ class Plot2DC : public MapFrame {
  private:
   void place_legend();
   void show_interval();
+  double drawn_distance() const;
 
   double interval_ = 0;
   std::int16_t interval_in_percent_ = 0;

@@ -18,13 +18,13 @@ void Plot2DN::InitProperties() {
 void Plot2DN::draw_plot() { wafobj.D2Number(PLOTA, 0, 0, 0, 0, 0); }
 
 std::int16_t Plot2DN::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
-  return print_plot(least_map, least_map, [&](PrintWafer& page) {
+  return print_plot({left, top, width, height}, least_map, least_map, [&](PrintWafer& page) {
     page.Print_2DNPlot(wafobj, left, top, width, height, PlotCaption(), DrawFrame);
   });
 }
 
 std::int16_t Plot2DN::PrintGridNumber(double left, double top, double width, double height, bool DrawFrame) {
-  return print_plot(least_map, least_map, [&](PrintWafer& page) {
+  return print_plot({left, top, width, height}, least_map, least_map, [&](PrintWafer& page) {
     page.Print_2DVGridPlot(wafobj, left, top, width, height, PlotCaption(), DrawFrame);
   });
 }

@@ -23,7 +23,7 @@ void Plot2DS::draw_plot() {
 }
 
 std::int16_t Plot2DS::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
-  return print_plot(least_map, least_map, [&](PrintWafer& page) {
+  return print_plot({left, top, width, height}, least_map, least_map, [&](PrintWafer& page) {
     page.Print_2DSigmaPlot(wafobj, left, top, width, height, Resolution(), SigmaRange(), PlotCaption(),
                            marks(), DrawFrame);
   });

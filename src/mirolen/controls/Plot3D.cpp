@@ -1,5 +1,6 @@
 #include "mirolen/controls/Plot3D.h"
 
+#include "mirolen/controls/arguments.h"
 #include "mirolen/dialogs/frmPlotOpt3d.h"
 #include "mirolen/render/ColorScale.h"
 
@@ -15,7 +16,8 @@ Plot3D::Plot3D(Toolkit& toolkit, Container& container) : SurfaceFrame(toolkit, c
 }
 
 void Plot3D::PlotType(PlotTypeEnum v) {
-  quietly([&] { plot_type_ = static_cast<PlotTypeEnum>(to_int16(static_cast<double>(v))); });
+  if (!fits_16_bits(v)) return;
+  plot_type_ = v;
   look_changed("PlotType");
 }
 
@@ -46,7 +48,7 @@ void Plot3D::fill_legend() {
 }
 
 std::int16_t Plot3D::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
-  return print_plot(least_width, least_height, [&](PrintWafer& page) {
+  return print_plot({left, top, width, height}, least_width, least_height, [&](PrintWafer& page) {
     page.Print_3DPlot(wafobj, left, top, width, height, static_cast<double>(plot_type_), XResolution(),
                       YResolution(), PlotScale(), GridRotation(), WaferRotation(), GridInclination(),
                       PlotCaption(), DrawFrame);

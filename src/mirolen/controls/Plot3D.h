@@ -9,6 +9,7 @@ class Plot3D : public SurfaceFrame {
  public:
   Plot3D(Toolkit& toolkit, Container& container);
 
+  /// A number that has no name in its enumeration is kept, if 16 bits hold it.
   PlotTypeEnum PlotType() const { return plot_type_; }
   void PlotType(PlotTypeEnum v);
 

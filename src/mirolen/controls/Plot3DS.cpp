@@ -27,7 +27,7 @@ void Plot3DS::draw_view(bool coarse) {
 }
 
 std::int16_t Plot3DS::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
-  return print_plot(least_width, least_height, [&](PrintWafer& page) {
+  return print_plot({left, top, width, height}, least_width, least_height, [&](PrintWafer& page) {
     page.Print_3DSigmaPlot(wafobj, left, top, width, height, XResolution(), YResolution(), PlotScale(),
                            GridRotation(), WaferRotation(), GridInclination(), SigmaRange(), PlotCaption(),
                            DrawFrame);

@@ -23,7 +23,8 @@ SigmaLegend<Control>::SigmaLegend(Toolkit& toolkit, Container& container) : Cont
 
 template <class Control>
 void SigmaLegend<Control>::SigmaRange(double v) {
-  sigma_range_ = is_finite(v) ? v : default_range;
+  if (!is_finite(v)) return;
+  sigma_range_ = v;
   this->look_changed("SigmaRange");
 }
 
@@ -46,20 +47,24 @@ void SigmaLegend<Control>::fill_legend() {
 
 template <class Control>
 void SigmaLegend<Control>::show_plot() {
-  this->quietly([&] { fill_legend(); });
-  this->redraw_quietly();
+  this->quietly([&] {
+    this->RedrawPlot();
+    fill_legend();
+  });
 }
 
 template <class Control>
 std::int16_t SigmaLegend<Control>::PrintLegend(double& left, double& top, bool DrawFrame) {
-  return this->print_block(
-      [&](PrintWafer& page) { page.DrawSigmaLegend(this->wafobj, left, top, sigma_range_, DrawFrame); });
+  return this->print_block({left, top}, [&](PrintWafer& page) {
+    page.DrawSigmaLegend(this->wafobj, left, top, sigma_range_, DrawFrame);
+  });
 }
 
 template <class Control>
 std::int16_t SigmaLegend<Control>::PrintLegend_No_Frame(double& left, double& top) {
-  return this->print_block(
-      [&](PrintWafer& page) { page.DrawSigmaLegend_No_Frame(this->wafobj, left, top, sigma_range_); });
+  return this->print_block({left, top}, [&](PrintWafer& page) {
+    page.DrawSigmaLegend_No_Frame(this->wafobj, left, top, sigma_range_);
+  });
 }
 
 template <class Control>

@@ -10,7 +10,7 @@ template <class Control>
 class SigmaLegend : public Control {
  public:
   double SigmaRange() const { return sigma_range_; }
-  /// Half of the range round the mean, in standard deviations; a number that is not finite becomes 0.5.
+  /// Half of the range round the mean, in standard deviations.
   void SigmaRange(double v);
 
   int intervals() const override { return 3; }
@@ -34,7 +34,7 @@ class SigmaLegend : public Control {
   void fill_legend() override;
   void color_legend(Color v) override { frInt.BackColor = v; }
   double& color_field(int interval) override;
-  /// Draws each time, and brings the legend up to date itself, as no resize handler runs.
+  /// Draws each time and, as no resize handler runs, then brings the legend up to date itself.
   void show_plot() override;
 
  private:

@@ -1,5 +1,7 @@
 #include "mirolen/controls/SurfaceFrame.h"
 
+#include <algorithm>
+
 #include "mirolen/dialogs/SurfaceOptions.h"
 
 namespace mirolen {
@@ -9,22 +11,16 @@ constexpr double default_step = 5;
 
 }  // namespace
 
-double SurfaceFrame::step_in_range(double v) const {
-  if (!(v > 0)) v = default_step;
-  return v > wafobj.test_diam / 4 ? wafobj.test_diam / 4 : v;
+void SurfaceFrame::set_step(double& step, double v, const char* property) {
+  if (!is_finite(v)) return;
+  step = std::min(v > 0 ? v : default_step, wafobj.test_diam / 4);
+  wafobj.changeResx = true;
+  look_changed(property);
 }
 
-void SurfaceFrame::XResolution(double v) {
-  x_resolution_ = step_in_range(v);
-  wafobj.changeResx = true;
-  look_changed("XResolution");
-}
+void SurfaceFrame::XResolution(double v) { set_step(x_resolution_, v, "XResolution"); }
 
-void SurfaceFrame::YResolution(double v) {
-  y_resolution_ = step_in_range(v);
-  wafobj.changeResx = true;
-  look_changed("YResolution");
-}
+void SurfaceFrame::YResolution(double v) { set_step(y_resolution_, v, "YResolution"); }
 
 void SurfaceFrame::PlotScale(std::int16_t v) {
   plot_scale_ = v < 1 ? std::int16_t{0} : v;

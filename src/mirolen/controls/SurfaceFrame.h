@@ -30,7 +30,7 @@ class SurfaceFrame : public PerspectiveFrame {
   void draw_surface(bool coarse, std::int16_t style, double sigma_range);
 
  private:
-  double step_in_range(double v) const;
+  void set_step(double& step, double v, const char* property);
 
   double x_resolution_ = 0, y_resolution_ = 0;
   std::int16_t plot_scale_ = 0;

@@ -22,7 +22,7 @@ std::string suffix_of(bool percent, const std::string& unit) { return percent ? 
 /// The range of the values, whatever the plot limits; 0 where it has no number.
 double spread(const wafer& wafer) {
   const double spread = wafer.maxi - wafer.mini;
-  return std::isfinite(spread) ? spread : 0;
+  return is_finite(spread) ? spread : 0;
 }
 
 }  // namespace
