@@ -64,8 +64,10 @@ TEST(Plot2DFace, IgnoresWhatIsNoColourNoIntervalAndNoPointer) {
   EXPECT_EQ(face.BackColor(), back);
   EXPECT_EQ(face.IntervalColor(0), first);
   EXPECT_FALSE(face.IntervalColor(10).isValid());
-  face.setMousePointer(100000);
+  face.setMousePointer(100);
   EXPECT_EQ(face.MousePointer(), 99);
+  face.setMousePointer(65546);
+  EXPECT_EQ(face.MousePointer(), 99) << "not the 10 of its lower bits";
 }
 
 TEST(Plot2DFace, TakesSitesAsVectorsSpansAndArrays) {

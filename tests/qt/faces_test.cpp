@@ -144,14 +144,6 @@ INSTANTIATE_TEST_SUITE_P(
                     FaceProperties{"Histogram", chart}, FaceProperties{"LineScan", scan}),
     [](const auto& param) { return std::string(param.param.face); });
 
-TEST(Faces, NumbersBeyondSixteenBitsBecomeTheNearest) {
-  const auto scan_face = make_face("LineScan");
-  scan_face->setProperty("LineEndPointX", 70000);
-  EXPECT_EQ(scan_face->property("LineEndPointX"), 32767);
-  scan_face->setProperty("LineEndPointX", -70000);
-  EXPECT_EQ(scan_face->property("LineEndPointX"), -32768);
-}
-
 TEST(Faces, HaveTheirOwnSmallestSizes) {
   EXPECT_EQ(make_face("Histogram")->minimumSizeHint(), QSize(140, 140));
   EXPECT_EQ(make_face("Plot2DC")->minimumSizeHint(), QSize(300, 212));

@@ -12,7 +12,7 @@ class CellMapWidget : public MapWidget {
   Q_PROPERTY(Sites ShowSites READ ShowSites WRITE setShowSites NOTIFY ShowSitesChanged)
 
  public:
-  enum Sites { ShowSite = -1, HideSite = 0 };
+  enum Sites : int { ShowSite = -1, HideSite = 0 };
   Q_ENUM(Sites)
 
   double Resolution() const { return frame_as<CellMapFrame>().Resolution(); }

@@ -15,7 +15,7 @@ class Histogram : public PlotWidget {
       QColor GaussCurveColor READ GaussCurveColor WRITE setGaussCurveColor NOTIFY GaussCurveColorChanged)
 
  public:
-  enum PlotTyEnum { vbbottom = 1, vbTop = 2, vbLeft = 3, vbRight = 4 };
+  enum PlotTyEnum : int { vbbottom = 1, vbTop = 2, vbLeft = 3, vbRight = 4 };
   Q_ENUM(PlotTyEnum)
 
   explicit Histogram(QWidget* parent = nullptr);
@@ -38,7 +38,9 @@ class Histogram : public PlotWidget {
     return control().PrintPlot_THN(left, top, width, height);
   }
   void SetChartDim(double topC, double heightC) { control().SetChartDim(topC, heightC); }
-  void Borderstyle(int Bstyle) { control().Borderstyle(short_of(Bstyle)); }
+  void Borderstyle(int Bstyle) {
+    if (const auto taken = short_of(Bstyle)) control().Borderstyle(*taken);
+  }
   void ShowControlLimit(double LCLs, double UCLs) { control().ShowControlLimit(LCLs, UCLs); }
   void ResetControlLimit() { control().ResetControlLimit(); }
 

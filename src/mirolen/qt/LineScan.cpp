@@ -10,16 +10,17 @@ LineScan::LineScan(QWidget* parent) : PlotWidget(parent) {
 }
 
 int LineScan::GetLineOrAngle(int& angle, double& StartX, double& StartY, double& EndX, double& EndY) const {
-  std::int16_t degrees = short_of(angle);
+  std::int16_t degrees = control().angle();
   const int result = control().GetLineOrAngle(degrees, StartX, StartY, EndX, EndY);
-  angle = degrees;
+  if (control().PlotType() != mirolen::PlotTypeEnumLineScan::vbline) angle = degrees;
   return result;
 }
 
 void LineScan::SetLineOrAngle(PlotTypeEnumLineScan PlotType, int angle, double AngleX, double AngleY,
                               double StartX, double StartY, double EndX, double EndY) {
-  control().SetLineOrAngle(static_cast<mirolen::PlotTypeEnumLineScan>(PlotType), short_of(angle), AngleX,
-                           AngleY, StartX, StartY, EndX, EndY);
+  if (const auto degrees = short_of(angle))
+    control().SetLineOrAngle(static_cast<mirolen::PlotTypeEnumLineScan>(PlotType), *degrees, AngleX, AngleY,
+                             StartX, StartY, EndX, EndY);
 }
 
 }  // namespace mirolen::qt

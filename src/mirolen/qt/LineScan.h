@@ -20,7 +20,7 @@ class LineScan : public PlotWidget {
   Q_PROPERTY(QString PlotCaption READ PlotCaption WRITE setPlotCaption NOTIFY PlotCaptionChanged)
 
  public:
-  enum PlotTypeEnumLineScan { vbAngle = 1, vbline = 2 };
+  enum PlotTypeEnumLineScan : int { vbAngle = 1, vbline = 2 };
   Q_ENUM(PlotTypeEnumLineScan)
 
   explicit LineScan(QWidget* parent = nullptr);
@@ -34,19 +34,33 @@ class LineScan : public PlotWidget {
     control().PlotType(static_cast<mirolen::PlotTypeEnumLineScan>(v));
   }
   int angle() const { return control().angle(); }
-  void setAngle(int v) { control().angle(short_of(v)); }
+  void setAngle(int v) {
+    if (const auto taken = short_of(v)) control().angle(*taken);
+  }
   int RotationPointX() const { return control().RotationPointX(); }
-  void setRotationPointX(int v) { control().RotationPointX(short_of(v)); }
+  void setRotationPointX(int v) {
+    if (const auto taken = short_of(v)) control().RotationPointX(*taken);
+  }
   int RotationPointY() const { return control().RotationPointY(); }
-  void setRotationPointY(int v) { control().RotationPointY(short_of(v)); }
+  void setRotationPointY(int v) {
+    if (const auto taken = short_of(v)) control().RotationPointY(*taken);
+  }
   int LineStartPointX() const { return control().LineStartPointX(); }
-  void setLineStartPointX(int v) { control().LineStartPointX(short_of(v)); }
+  void setLineStartPointX(int v) {
+    if (const auto taken = short_of(v)) control().LineStartPointX(*taken);
+  }
   int LineStartPointY() const { return control().LineStartPointY(); }
-  void setLineStartPointY(int v) { control().LineStartPointY(short_of(v)); }
+  void setLineStartPointY(int v) {
+    if (const auto taken = short_of(v)) control().LineStartPointY(*taken);
+  }
   int LineEndPointX() const { return control().LineEndPointX(); }
-  void setLineEndPointX(int v) { control().LineEndPointX(short_of(v)); }
+  void setLineEndPointX(int v) {
+    if (const auto taken = short_of(v)) control().LineEndPointX(*taken);
+  }
   int LineEndPointY() const { return control().LineEndPointY(); }
-  void setLineEndPointY(int v) { control().LineEndPointY(short_of(v)); }
+  void setLineEndPointY(int v) {
+    if (const auto taken = short_of(v)) control().LineEndPointY(*taken);
+  }
   bool ShowSites() const { return control().ShowSites(); }
   void setShowSites(bool v) { control().ShowSites(v); }
   QString PlotCaption() const { return QString::fromStdString(control().PlotCaption()); }

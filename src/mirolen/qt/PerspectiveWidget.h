@@ -18,11 +18,17 @@ class PerspectiveWidget : public MapWidget {
   bool EnableRotation() const { return view().EnableRotation; }
   void setEnableRotation(bool v);
   int WaferRotation() const { return view().WaferRotation(); }
-  void setWaferRotation(int v) { view().WaferRotation(short_of(v)); }
+  void setWaferRotation(int v) {
+    if (const auto taken = short_of(v)) view().WaferRotation(*taken);
+  }
   int GridRotation() const { return view().GridRotation(); }
-  void setGridRotation(int v) { view().GridRotation(short_of(v)); }
+  void setGridRotation(int v) {
+    if (const auto taken = short_of(v)) view().GridRotation(*taken);
+  }
   int GridInclination() const { return view().GridInclination(); }
-  void setGridInclination(int v) { view().GridInclination(short_of(v)); }
+  void setGridInclination(int v) {
+    if (const auto taken = short_of(v)) view().GridInclination(*taken);
+  }
 
  signals:
   void EnableRotationChanged();

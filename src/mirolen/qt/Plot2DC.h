@@ -25,11 +25,11 @@ class Plot2DC : public MapWidget {
   MIROLEN_INTERVAL_COLORS_TO_TEN
 
  public:
-  enum ExconEnum { Exact = 1, Converted = 2, None = 3 };
+  enum ExconEnum : int { Exact = 1, Converted = 2, None = 3 };
   Q_ENUM(ExconEnum)
-  enum ResoEnum { LowQuality = 0, HighQuality = 1, Automatic = 2 };
+  enum ResoEnum : int { LowQuality = 0, HighQuality = 1, Automatic = 2 };
   Q_ENUM(ResoEnum)
-  enum DrawColEnum { BWhitePlot = 0, Three_ColorPlot = 1, Ten_ColorPlot = 2 };
+  enum DrawColEnum : int { BWhitePlot = 0, Three_ColorPlot = 1, Ten_ColorPlot = 2 };
   Q_ENUM(DrawColEnum)
 
   explicit Plot2DC(QWidget* parent = nullptr);
@@ -41,7 +41,9 @@ class Plot2DC : public MapWidget {
   double Interval() const { return control().Interval(); }
   void setInterval(double v) { control().Interval(v); }
   int IntervalInPercent() const { return control().IntervalInPercent(); }
-  void setIntervalInPercent(int v) { control().IntervalInPercent(short_of(v)); }
+  void setIntervalInPercent(int v) {
+    if (const auto taken = short_of(v)) control().IntervalInPercent(*taken);
+  }
   QString MeasurementUnit() const { return QString::fromStdString(control().MeasurementUnit()); }
   void setMeasurementUnit(const QString& v) { control().MeasurementUnit(v.toStdString()); }
   ExconEnum marksites() const { return static_cast<ExconEnum>(control().marksites()); }
@@ -51,7 +53,9 @@ class Plot2DC : public MapWidget {
   DrawColEnum PlotColored() const { return static_cast<DrawColEnum>(control().PlotColored()); }
   void setPlotColored(DrawColEnum v) { control().PlotColored(static_cast<mirolen::DrawColEnum>(v)); }
   int ScaleType() const { return control().ScaleType(); }
-  void setScaleType(int v) { control().ScaleType(short_of(v)); }
+  void setScaleType(int v) {
+    if (const auto taken = short_of(v)) control().ScaleType(*taken);
+  }
   QColor MeanCurveColor() const;
   void setMeanCurveColor(const QColor& v);
   QColor UpperCurveColor() const;

@@ -12,7 +12,7 @@ class Plot3D : public SurfaceWidget {
   MIROLEN_INTERVAL_COLORS_TO_TEN
 
  public:
-  enum PlotTypeEnum { PolyEdge = 1, HiddenWireFrame = 2, WireFrame = 3 };
+  enum PlotTypeEnum : int { PolyEdge = 1, HiddenWireFrame = 2, WireFrame = 3 };
   Q_ENUM(PlotTypeEnum)
 
   explicit Plot3D(QWidget* parent = nullptr);

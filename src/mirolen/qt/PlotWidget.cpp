@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <algorithm>
-#include <limits>
+#include <utility>
 
 #include "mirolen/core/translation.h"
 #include "mirolen/dialogs/PropertyDialog.h"
@@ -127,6 +127,7 @@ void PlotWidget::setBackColor(const QColor& v) {
 
 void PlotWidget::setMousePointer(int v) {
   constexpr int last_pointer = 99;
+  if (!short_of(v)) return;
   control_->MousePointer(static_cast<std::int16_t>(std::clamp(v, 0, last_pointer)));
   emit MousePointerChanged();
 }
@@ -156,9 +157,9 @@ void PlotWidget::ShowProperties() {
 QSize PlotWidget::sizeHint() const { return size_of(ControlFrame::usual_size); }
 QSize PlotWidget::minimumSizeHint() const { return size_of(control_->smallest_size()); }
 
-std::int16_t PlotWidget::short_of(int v) {
-  using range = std::numeric_limits<std::int16_t>;
-  return static_cast<std::int16_t>(std::clamp<int>(v, range::min(), range::max()));
+std::optional<std::int16_t> PlotWidget::short_of(int v) {
+  if (!std::in_range<std::int16_t>(v)) return std::nullopt;
+  return static_cast<std::int16_t>(v);
 }
 
 void PlotWidget::property_changed(std::string_view name) {

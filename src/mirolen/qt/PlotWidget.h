@@ -4,6 +4,7 @@
 #include <QPixmap>
 #include <QWidget>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -14,7 +15,8 @@
 namespace mirolen::qt {
 
 /// What the faces of all plot controls share. A face shows one control of the library as a QWidget and passes
-/// its members, notices and events on under their own names; the control's header tells what they do.
+/// its members, notices and events on under their own names; the control's header tells what they do. Where a
+/// control counts in 16 bits the face takes an int, and one that does not fit changes nothing.
 ///
 /// It needs no display: with the platform "offscreen" a face that was never shown draws too, and
 /// QWidget::grab gives its picture. Until a face is seen for the first time its size counts as not settled:
@@ -48,7 +50,7 @@ class PlotWidget : public QWidget {
   Q_PROPERTY(int hwnd READ hwnd STORED false)
 
  public:
-  enum WaferSt { Notch = 1, Flat = 2 };
+  enum WaferSt : int { Notch = 1, Flat = 2 };
   Q_ENUM(WaferSt)
 
   ~PlotWidget() override;
@@ -82,6 +84,7 @@ class PlotWidget : public QWidget {
   /// A colour that is not valid changes nothing.
   void setBackColor(const QColor& v);
   int MousePointer() const { return control_->MousePointer(); }
+  /// Below 0 becomes 0, above 99 becomes 99.
   void setMousePointer(int v);
   QPixmap MouseIcon() const;
   void setMouseIcon(const QPixmap& v);
@@ -169,8 +172,8 @@ class PlotWidget : public QWidget {
   const Control& frame_as() const {
     return static_cast<const Control&>(frame());
   }
-  /// A whole number as the controls take it: one beyond their 16 bits becomes the nearest.
-  static std::int16_t short_of(int v);
+  /// A whole number as the controls take it: none beyond their 16 bits.
+  static std::optional<std::int16_t> short_of(int v);
   /// Draws anew for a screen with so many device pixels a logical pixel.
   void change_ratio(double ratio);
 

@@ -18,7 +18,9 @@ class SurfaceWidget : public PerspectiveWidget {
   double YResolution() const { return surface().YResolution(); }
   void setYResolution(double v) { surface().YResolution(v); }
   int PlotScale() const { return surface().PlotScale(); }
-  void setPlotScale(int v) { surface().PlotScale(short_of(v)); }
+  void setPlotScale(int v) {
+    if (const auto taken = short_of(v)) surface().PlotScale(*taken);
+  }
 
  signals:
   void XResolutionChanged();
