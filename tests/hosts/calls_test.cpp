@@ -122,7 +122,8 @@ TEST(ALongPlot, IsSeenToGrow) {
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&face));
   load_slope(face);
   face.setIntervalInPercent(0);
-  face.setInterval(0.01);  // thousands of curves
+  face.setInterval(0.005);  // thousands of curves, on the finest mesh: some tenths of a second
+  face.setResolution(qt::Plot2DC::HighQuality);
   EventCount paints(*qt::view_of(face.control().PLOTA), QEvent::Paint);
   face.Plot();
   EXPECT_GT(paints.count, 1);

@@ -186,5 +186,41 @@ TEST_P(Deletion, InASlotOfAnySignalIsSafe) {
 
 INSTANTIATE_TEST_SUITE_P(Nine, Deletion, testing::ValuesIn(nine_faces), name_of_face);
 
+/// Windows of every kind lose one control after the other in its own slots, and go on.
+class DeletionIn : public testing::TestWithParam<HostKind> {};
+
+TEST_P(DeletionIn, ItsWindowLeavesTheOtherControls) {
+  HostWindow host = GetParam().make();
+  host.window->resize(1300, 1000);
+  host.window->show();
+  QTest::qWait(1);
+  std::vector<QPointer<PlotWidget>> left(host.faces.begin(), host.faces.end());
+  const std::vector<std::pair<const char*, std::function<void(PlotWidget&)>>> ways{
+      {SIGNAL(BackColorChanged()), [](PlotWidget& f) { f.setBackColor(Qt::yellow); }},
+      {SIGNAL(HideLegendChanged()), [](PlotWidget& f) { f.setHideLegend(true); }},
+      {SIGNAL(MouseDown(int, int, float, float)),
+       [](PlotWidget& f) { click_everywhere(f, QEvent::MouseButtonPress); }},
+      {SIGNAL(MouseUp(int, int, float, float)),
+       [](PlotWidget& f) { click_everywhere(f, QEvent::MouseButtonPress); }}};
+  for (std::size_t i = 0; i < left.size(); ++i) {
+    const auto& [signal, raise] = ways[i % ways.size()];
+    load_slope(*left[i]);
+    left[i]->Plot();
+    Deleter deleter(left[i]);
+    ASSERT_TRUE(QObject::connect(left[i], signal, &deleter, SLOT(delete_face())));
+    raise(*left[i]);
+    EXPECT_FALSE(left[i]) << signal;
+    host.window->resize(1300 - 20 * static_cast<int>(i), 1000);
+    QTest::qWait(1);
+    for (std::size_t other = i + 1; other < left.size(); ++other) {
+      ASSERT_TRUE(left[other]);
+      load_slope(*left[other]);
+      EXPECT_EQ(left[other]->Plot(), 0);
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Hosts, DeletionIn, testing::ValuesIn(host_kinds()), name_of_host);
+
 }  // namespace
 }  // namespace mirolen

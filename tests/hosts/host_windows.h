@@ -30,6 +30,9 @@ const std::vector<HostKind>& host_kinds();
 /// The name of a test over the faces of tests/qt/nine_faces.h.
 inline std::string name_of_face(const testing::TestParamInfo<const char*>& test) { return test.param; }
 
+/// The name of a test over host_kinds().
+inline std::string name_of_host(const testing::TestParamInfo<HostKind>& test) { return test.param.name; }
+
 /// Loads sites in a square of 40 mm whose values grow to the right from a base.
 void load_slope(qt::PlotWidget& face, double base = 100);
 

@@ -24,6 +24,7 @@ class Starts : public testing::TestWithParam<HostKind> {
     }
   }
   void show() { host_.window->show(); }
+  const std::vector<qt::PlotWidget*>& faces() const { return host_.faces; }
   /// Lets the host run until nothing waits any more, looks at its plots, and ends.
   void run() {
     QTimer::singleShot(0, [] {
@@ -71,6 +72,21 @@ TEST_P(Starts, WithinTheEventLoop) {
   }
 }
 
+TEST_P(Starts, AndRunsNothingOfTheHostWithinACall) {
+  make();
+  show();
+  QTest::qWait(1);
+  for (qt::PlotWidget* face : faces()) {
+    bool ran = false;
+    QTimer::singleShot(0, [&] { ran = true; });
+    face->SetPlotNotVaild();
+    face->Plot();
+    EXPECT_FALSE(ran) << face->metaObject()->className();
+    QTest::qWait(0);
+    EXPECT_TRUE(ran);
+  }
+}
+
 TEST_P(Starts, AndDataThatComeAfterTheFirstSight) {
   for (int start = 0; start < repeats(3) && !HasFailure(); ++start) {
     HostWindow host = GetParam().make();
@@ -85,8 +101,7 @@ TEST_P(Starts, AndDataThatComeAfterTheFirstSight) {
   }
 }
 
-std::string name_of(const testing::TestParamInfo<HostKind>& info) { return info.param.name; }
-INSTANTIATE_TEST_SUITE_P(Hosts, Starts, testing::ValuesIn(host_kinds()), name_of);
+INSTANTIATE_TEST_SUITE_P(Hosts, Starts, testing::ValuesIn(host_kinds()), name_of_host);
 
 }  // namespace
 }  // namespace mirolen
