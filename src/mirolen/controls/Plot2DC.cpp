@@ -92,7 +92,7 @@ void Plot2DC::place_legend() {
   frleg.Visible = ten_rows;
   frmove.Height = ten_rows ? 5580 : 4440;
   FNLabel.Move(120, ten_rows ? 3330 : 1920);
-  FNPic.Move(555, FNLabel.Top + 240);
+  FNPic.Move(FNLabel.Left + (FNLabel.Width - FNPic.Width) / 2, FNLabel.Top + 240);
   Command1.Move(120, ten_rows ? 5100 : 3840);
 }
 
