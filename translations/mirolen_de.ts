@@ -1117,6 +1117,10 @@ Die Autoren von MirolenViewWM, MIT-Lizenz.</translation>
         <translation>Die Datei hat eine Kopfzeile, aber keine Messpunkte.</translation>
     </message>
     <message>
+        <source>This is not a regular file.</source>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
+    </message>
+    <message>
         <source>The file is empty.</source>
         <translation>Die Datei ist leer.</translation>
     </message>

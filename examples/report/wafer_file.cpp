@@ -22,6 +22,13 @@ const QStringList& columns() {
   throw WaferFileError(text("Line %1: %2").arg(line).arg(reason));
 }
 
+/// Opens a file to read it. A pipe may never end, so only a regular file is taken.
+void open(QFile& file) {
+  const QFileInfo found(file);
+  if (found.exists() && !found.isFile()) throw WaferFileError(text("This is not a regular file."));
+  if (!file.open(QIODevice::ReadOnly)) throw WaferFileError(file.errorString());
+}
+
 /// One line in UTF-8, without its end and without the mark that some programs put before the first.
 QString next_line(QFile& file) {
   QString line = QString::fromUtf8(file.readLine());
@@ -90,7 +97,7 @@ mirolen::wafer scratch_wafer(double diameter) {
 
 SiteList read_csv(const QString& path) {
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) throw WaferFileError(file.errorString());
+  open(file);
   if (file.atEnd()) throw WaferFileError(text("The file is empty."));
   const QChar separator = separator_of(next_line(file));
   SiteList sites;
@@ -104,7 +111,7 @@ SiteList read_csv(const QString& path) {
 
 int sites_in_binary(const QString& path) {
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) throw WaferFileError(file.errorString());
+  open(file);
   const qint64 sites = file.size() / bytes_of_site;
   if (sites == 0) throw WaferFileError(text("The file is too short to hold a site."));
   return static_cast<int>(std::min<qint64>(sites, most_sites));

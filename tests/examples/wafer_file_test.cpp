@@ -1,6 +1,7 @@
 #include "wafer_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "qt/qt_support.h"
 
@@ -57,6 +58,14 @@ TEST(WaferFile, TellsWhatIsWrongAndWhere) {
   };
   for (const auto& [content, expected] : cases) EXPECT_EQ(complaint(content), expected);
   EXPECT_THROW(read_csv("/no/such/file.csv"), WaferFileError);
+}
+
+TEST(WaferFile, IsNoPipe) {
+  const QTemporaryDir directory;
+  const QString pipe = directory.filePath("pipe");
+  ASSERT_EQ(mkfifo(QFile::encodeName(pipe).data(), 0600), 0);
+  EXPECT_THROW(read_csv(pipe), WaferFileError);
+  EXPECT_THROW(sites_in_binary(pipe), WaferFileError);
 }
 
 TEST(WaferFile, TakesAsManySitesAsAPlotAndNoMore) {

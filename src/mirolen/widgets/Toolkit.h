@@ -29,9 +29,8 @@ class Peer {
 enum class MessageIcon { none, critical };
 
 /// All that the widgets need of a user interface; a binding supplies one. It outlives every widget made with
-/// it. What fails in it, and in its surfaces, throws a
-/// std::exception, which no control lets out of a member that does not print. What a peer throws gets no
-/// farther than its widget.
+/// it. What fails in it, and in its surfaces, throws a std::exception, which no control lets out of a member
+/// that does not print. What a peer throws gets no farther than its widget.
 class Toolkit {
  public:
   virtual ~Toolkit() = default;
