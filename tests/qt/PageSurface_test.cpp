@@ -244,17 +244,6 @@ QByteArray pdf_of(const Recording& recording) {
   return file.data();
 }
 
-TEST(PageSurface, AMapMakesASmallFile) {
-  const Recording map = printed_map();
-  const auto is_cell = [](const recorded::Call& call) {
-    return std::holds_alternative<recorded::Polygon>(call);
-  };
-  ASSERT_GT(std::ranges::count_if(map, is_cell), 30000);
-  const qsizetype merged = pdf_of<PageSurface>(map).size(), plain = pdf_of<PlainPage>(map).size();
-  EXPECT_LT(merged, 30000);
-  EXPECT_GT(plain, 5 * merged);
-}
-
 /// What a page writes of a drawing, at the resolution of a file.
 template <class Page, class Draw>
 QByteArray svg_of(Draw draw) {
@@ -271,6 +260,26 @@ QByteArray svg_of(Draw draw) {
   return file.data();
 }
 
+TEST(PageSurface, AMapMakesASmallFile) {
+  const Recording map = printed_map();
+  const auto is_cell = [](const recorded::Call& call) {
+    return std::holds_alternative<recorded::Polygon>(call);
+  };
+  ASSERT_GT(std::ranges::count_if(map, is_cell), 30000);
+  const qsizetype merged = pdf_of<PageSurface>(map).size(), plain = pdf_of<PlainPage>(map).size();
+  EXPECT_LT(merged, 17000);
+  EXPECT_GT(plain, 8 * merged);
+  const QByteArray svg = svg_of<PageSurface>([&map](Surface& page) { replay(map, page); });
+  EXPECT_LT(svg.size(), 65000);
+}
+
+/// The operators of a page's content, in their order.
+QList<QByteArray> lines_of_page(const QByteArray& pdf) {
+  const qsizetype from = pdf.indexOf("stream\n") + 7, to = pdf.indexOf("\nendstream", from);
+  const QByteArray any_size(4, '\0');
+  return qUncompress(any_size + pdf.mid(from, to - from)).split('\n');
+}
+
 void draw_chess_board(Surface& page) {
   for (int row = 0; row < 8; ++row)
     for (int column = 8; column-- > 0;) {
@@ -283,6 +292,17 @@ TEST(PageSurface, EachColorOfAMapIsOneShape) {
   const auto shapes = [](const QByteArray& svg) { return svg.count("<path") + svg.count("<rect"); };
   EXPECT_EQ(shapes(svg_of<PlainPage>(draw_chess_board)), 64);
   EXPECT_EQ(shapes(svg_of<PageSurface>(draw_chess_board)), 2);
+}
+
+TEST(PageSurface, EachColorOfAMapIsOneShapeInAPdf) {
+  RecordingSurface board({4500, 6500}, {2.4, 2.4});
+  draw_chess_board(board);
+  const auto fills = [](const QByteArray& pdf) {
+    return std::ranges::count_if(lines_of_page(pdf),
+                                 [](const QByteArray& line) { return line == "f" || line == "f*"; });
+  };
+  EXPECT_EQ(fills(pdf_of<PlainPage>(board.recording())), 64);
+  EXPECT_EQ(fills(pdf_of<PageSurface>(board.recording())), 2);
 }
 
 /// The area of the boxes that a path has, by the odd-even rule, as two shapes of a map have it.

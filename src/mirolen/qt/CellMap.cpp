@@ -1,8 +1,11 @@
 #include "mirolen/qt/CellMap.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <QRegion>
 #include <numeric>
+#include <span>
+#include <tuple>
 #include <vector>
 
 #include "mirolen/qt/translate.h"
@@ -15,42 +18,110 @@ PixelPoint in_reach(PixelPoint corner) {
           static_cast<std::int32_t>(qt::in_reach(corner.y))};
 }
 
-QRect rect_of(const UprightBox& box) {
-  return QRect(box.from.x, box.from.y, box.to.x - box.from.x, box.to.y - box.from.y);
-}
-
 bool is_as_high(const UprightBox& one, const UprightBox& other) {
   return one.from.y == other.from.y && one.to.y == other.to.y;
 }
 
-/// The region of each colour.
-template <class Rows>
-std::map<Color, QRegion> regions_of(const Rows& rows) {
-  std::map<Color, std::vector<QRect>> boxes;
-  for (const auto& [top, row] : rows)
-    for (const auto& [box, color] : row) boxes[color].push_back(rect_of(box));
-  std::map<Color, QRegion> regions;
-  for (const auto& [color, its_boxes] : boxes)
-    regions[color].setRects(its_boxes.data(), static_cast<int>(its_boxes.size()));
-  return regions;
-}
+/// Touching cells of a row, from a place to another one.
+struct Stretch {
+  std::int32_t from, to;
+  bool is_own;  // all are of the colour in question
+};
 
-/// A region and all that it passes on its way by a distance along one axis. It goes in as few steps as leave
-/// no gap: none is longer than its thinnest part and what it has passed by then.
-QRegion swept(QRegion region, const QPoint& axis, int distance) {
-  int thinnest = distance;
-  for (const QRect& box : region) thinnest = std::min(thinnest, axis.x() ? box.width() : box.height());
-  for (int passed = 0; passed < distance;) {
-    const int step = std::min(passed + thinnest, distance - passed);
-    region |= region.translated(axis * step);
-    passed += step;
+/// Calls `use` for all that a part of a row has of a colour and of those to come.
+template <class Row, class Use>
+void for_each_room(Color color, const Row& row, std::int32_t from, std::int32_t to, const Use& use) {
+  auto cell = std::ranges::partition_point(row, [&](const Cell& it) { return it.box.to.x <= from; });
+  const auto end = std::find_if(cell, row.end(), [&](const Cell& it) { return it.box.from.x >= to; });
+  while ((cell = std::find_if(cell, end, [&](const Cell& it) { return it.color >= color; })) != end) {
+    Stretch room{std::max(from, cell->box.from.x), cell->box.from.x, true};
+    for (; cell != end && cell->box.from.x == room.to && cell->color >= color; ++cell) {
+      room.to = cell->box.to.x;
+      room.is_own &= cell->color == color;
+    }
+    room.to = std::min(to, room.to);
+    use(room);
   }
-  return region;
 }
 
-/// A region and what lies no further from it than a width.
-QRegion grown(const QRegion& region, int width) {
-  return swept(swept(region, {1, 0}, 2 * width), {0, 1}, 2 * width).translated(-width, -width);
+/// The boxes that the shapes of all colours are made of: the cells, each with a hair of what is to come round
+/// it. Those of one colour may lie on each other.
+template <class Rows>
+class Shapes {
+ public:
+  Shapes(const Rows& rows, std::int32_t hair) : rows_(rows), hair_(hair) {
+    for (auto row = rows.begin(); row != rows.end(); ++row)
+      for (const Cell& cell : row->second) add(cell, row);
+  }
+
+  const std::map<Color, std::vector<UprightBox>>& boxes() const { return boxes_; }
+
+ private:
+  using Place = typename Rows::const_iterator;
+  using Row = typename Rows::mapped_type;
+
+  void add(const Cell& cell, Place row) {
+    UprightBox box = reaching_sideways(cell, row->second);
+    for (Place above = row; above != rows_.begin() && bottom_of(*--above) > cell.box.from.y - hair_;)
+      reach_into(above->second, cell, box);
+    for (Place below = row; ++below != rows_.end() && below->first < cell.box.to.y + hair_;)
+      reach_into(below->second, cell, box);
+    boxes_[cell.color].push_back(box);
+  }
+
+  UprightBox reaching_sideways(const Cell& cell, const Row& row) const {
+    UprightBox box = cell.box;
+    const std::int32_t from = box.from.x - hair_, to = box.to.x + hair_;
+    for_each_room(cell.color, row, from, to, [&](const Stretch& room) {
+      if (room.to <= cell.box.from.x || room.from >= cell.box.to.x) return;
+      box.from.x = room.from;
+      box.to.x = room.to;
+    });
+    return box;
+  }
+
+  /// The box of a cell reaches into another row as a whole; where not all of it may, strips beside it do.
+  void reach_into(const Row& row, const Cell& cell, UprightBox& box) {
+    const std::int32_t top = std::max(row.front().box.from.y, cell.box.from.y - hair_);
+    const std::int32_t bottom = std::min(row.front().box.to.y, cell.box.to.y + hair_);
+    for_each_room(cell.color, row, box.from.x, box.to.x, [&](const Stretch& room) {
+      if (room.is_own) return;
+      if (room.from == box.from.x && room.to == box.to.x && top <= box.to.y && bottom >= box.from.y) {
+        box.from.y = std::min(box.from.y, top);
+        box.to.y = std::max(box.to.y, bottom);
+      } else {
+        boxes_[cell.color].push_back({{room.from, top}, {room.to, bottom}});
+      }
+    });
+  }
+
+  static std::int32_t bottom_of(const typename Rows::value_type& row) { return row.second.front().box.to.y; }
+
+  const Rows& rows_;
+  const std::int32_t hair_;
+  std::map<Color, std::vector<UprightBox>> boxes_;
+};
+
+/// Boxes with those in one that stand on each other and are of one width.
+std::vector<QRectF> merged(std::vector<UprightBox> boxes) {
+  std::ranges::sort(boxes, {},
+                    [](const UprightBox& box) { return std::tuple(box.from.x, box.to.x, box.from.y); });
+  std::vector<QRectF> whole;
+  for (const auto& [from, to] : boxes) {
+    const QRectF box(from.x, from.y, to.x - from.x, to.y - from.y);
+    QRectF* const last = whole.empty() ? nullptr : &whole.back();
+    if (last && last->left() == box.left() && last->width() == box.width() && box.top() <= last->bottom())
+      last->setBottom(std::max(last->bottom(), box.bottom()));
+    else
+      whole.push_back(box);
+  }
+  return whole;
+}
+
+QRegion region_of(std::span<const QRectF> boxes) {
+  if (boxes.size() == 1) return boxes.front().toRect();
+  const std::size_t half = boxes.size() / 2;
+  return region_of(boxes.first(half)) | region_of(boxes.subspan(half));
 }
 
 /// The corners of a region's outline, row by row: a corner that two boxes have in common lies within an edge,
@@ -108,6 +179,16 @@ int hair_of(const QPaintDevice& device) {
   return (std::max(device.logicalDpiX(), device.logicalDpiY()) + viewer - 1) / viewer;
 }
 
+/// Paints boxes as one shape. The engine for PDF keeps them together, and they are shorter there than their
+/// outline.
+void fill(QPainter& painter, const std::vector<QRectF>& boxes, Color color) {
+  if (painter.paintEngine()->type() != QPaintEngine::Pdf)
+    return painter.fillPath(outline_of(region_of(boxes)), qcolor_of(color));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(qcolor_of(color));
+  painter.drawRects(boxes.data(), static_cast<int>(boxes.size()));
+}
+
 }  // namespace
 
 void CellMap::add(const Cell& cell) {
@@ -145,16 +226,10 @@ CellMap::Row* CellMap::row_of(const UprightBox& box) {
 
 void CellMap::end() {
   if (rows_.empty()) return;
-  const std::map<Color, QRegion> regions = regions_of(rows_);
+  const Shapes shapes(rows_, hair_of(*painter_.device()));
+  for (const auto& [color, boxes] : shapes.boxes()) fill(painter_, merged(boxes), color);
   rows_.clear();
   present_ = nullptr;
-  QRegion to_come;
-  for (const auto& [color, region] : regions) to_come |= region;
-  const int hair = hair_of(*painter_.device());
-  for (const auto& [color, region] : regions) {
-    to_come -= region;
-    painter_.fillPath(outline_of(region | (grown(region, hair) & to_come)), qcolor_of(color));
-  }
 }
 
 }  // namespace mirolen::qt
