@@ -73,18 +73,33 @@ bool is_mixed_of(Color mixed, Color one, Color other) {
   return true;
 }
 
-/// Whether each channel of a colour lies between those of others.
-bool is_among(Color color, const std::set<Color>& others) {
-  for (std::size_t i = 0; i < 3; ++i) {
-    int least = 255, most = 0;
-    for (const Color other : others) {
-      least = std::min(least, channels(other)[i]);
-      most = std::max(most, channels(other)[i]);
-    }
-    const int channel = channels(color)[i];
-    if (channel < least - rounding || channel > most + rounding) return false;
+/// Whether a colour is a mixture of any others: looks for the one that comes nearest, each step adding of the
+/// colour that lies furthest in the direction of what is missing.
+bool is_mixed_of(Color mixed, const std::set<Color>& others) {
+  using Mixture = std::array<double, 3>;
+  const auto mixture = [](Color color) {
+    const auto [red_part, green_part, blue_part] = channels(color);
+    return Mixture{double(red_part), double(green_part), double(blue_part)};
+  };
+  const auto minus = [](const Mixture& a, const Mixture& b) {
+    return Mixture{a[0] - b[0], a[1] - b[1], a[2] - b[2]};
+  };
+  const auto product = [](const Mixture& a, const Mixture& b) {
+    return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
+  };
+  const Mixture wanted = mixture(mixed);
+  Mixture nearest = mixture(*others.begin());
+  for (int step = 0; step < 5000; ++step) {
+    const Mixture missing = minus(wanted, nearest);
+    if (std::ranges::all_of(missing, [](double channel) { return std::abs(channel) <= rounding; }))
+      return true;
+    const Color furthest =
+        *std::ranges::max_element(others, {}, [&](Color other) { return product(missing, mixture(other)); });
+    const Mixture way = minus(mixture(furthest), nearest);
+    const double part = std::clamp(product(missing, way) / std::max(1e-9, product(way, way)), 0., 1.);
+    for (std::size_t i = 0; i < 3; ++i) nearest[i] += part * way[i];
   }
-  return true;
+  return false;
 }
 
 /// How far a colour may reach under another one, in dots.
@@ -113,7 +128,7 @@ Faults faults_of(const QImage& shown, const Map& map, int dpi, double margin) {
       const Color seen = pixel(shown, x, y);
       const bool right = colors.size() == 1   ? seen == *colors.begin()
                          : colors.size() == 2 ? is_mixed_of(seen, *colors.begin(), *colors.rbegin())
-                                              : is_among(seen, colors);
+                                              : is_mixed_of(seen, colors);
       if (right) continue;
       ++(colors.size() == 1 ? faults.inside : faults.at_borders);
       if (faults.first.empty())
@@ -185,7 +200,7 @@ class Viewers : public testing::TestWithParam<Viewer> {
 };
 
 TEST_P(Viewers, ShowNoForeignColourInAMap) {
-  for (const int edge : {9, 17, 40}) {
+  for (const int edge : {4, 9, 17, 40}) {
     const Map map{edge};
     write(map);
     for (const int dpi : {72, 100, 150, 300}) {
@@ -206,6 +221,15 @@ TEST_P(Viewers, ShowAMapAsLargeAsItIs) {
 
 INSTANTIATE_TEST_SUITE_P(All, Viewers, testing::ValuesIn(viewers),
                          [](const auto& param) { return std::string(param.param.name); });
+
+TEST(Mixtures, AreToldFromOtherColours) {
+  const Color grey = 0x808080;
+  EXPECT_TRUE(is_mixed_of(grey, {black, white, red}));
+  EXPECT_TRUE(is_mixed_of(0x404040, {black, white, red}));
+  EXPECT_TRUE(is_mixed_of(0x555555, {red, green, blue}));
+  EXPECT_FALSE(is_mixed_of(grey, {red, green, blue})) << "of which all mixtures are darker";
+  EXPECT_FALSE(is_mixed_of(0x00C000, {black, white, red})) << "though each channel lies between theirs";
+}
 
 // What the tests above look for is there to be seen: cells that are painted one by one have seams.
 TEST(PlainCells, HaveSeams) {
