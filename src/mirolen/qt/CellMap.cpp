@@ -173,6 +173,22 @@ QPainterPath outline_of(const QRegion& region) {
   return path;
 }
 
+/// Lets the run at an end of a row grow by a cell. @return whether the cell continues one.
+template <class Row>
+bool grow(Row& row, const Cell& cell) {
+  Cell &first = row.front(), &last = row.back();
+  if (!is_as_high(first.box, cell.box)) return false;
+  if (cell.color == last.color && cell.box.from.x == last.box.to.x) {
+    last.box.to = in_reach(cell.box.to);
+    return true;
+  }
+  if (cell.color == first.color && cell.box.to.x == first.box.from.x) {
+    first.box.from = in_reach(cell.box.from);
+    return true;
+  }
+  return false;
+}
+
 /// A pixel of a viewer that shows the page as large as it is, in those of the device.
 int hair_of(const QPaintDevice& device) {
   constexpr int viewer = 72;  // dots per inch
@@ -192,6 +208,7 @@ void fill(QPainter& painter, const std::vector<QRectF>& boxes, Color color) {
 }  // namespace
 
 void CellMap::add(const Cell& cell) {
+  if (present_ && grow(*present_, cell)) return;  // as most cells of a map do
   const UprightBox box{in_reach(cell.box.from), in_reach(cell.box.to)};
   if (box.from.x == box.to.x || box.from.y == box.to.y) return;
   if (keep({box, cell.color})) return;
@@ -202,12 +219,13 @@ void CellMap::add(const Cell& cell) {
 bool CellMap::keep(const Cell& cell) {
   Row* const row = row_of(cell.box);
   if (!row) return false;
+  if (!row->empty() && grow(*row, cell)) return true;
   if (row->empty() || cell.box.from.x >= row->back().box.to.x) {
-    if (row->empty() || !extend(row->back(), cell)) row->push_back(cell);
+    row->push_back(cell);
     return true;
   }
   if (cell.box.to.x <= row->front().box.from.x) {
-    if (!extend(row->front(), cell)) row->push_front(cell);
+    row->push_front(cell);
     return true;
   }
   return false;
