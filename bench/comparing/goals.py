@@ -44,8 +44,8 @@ COMPARISONS = (
     Comparison(_SURFACE, "gnuplot pm3d, ready matrix", "pictures:surface", "gnuplot:surface"),
     Comparison(_LOAD, "numpy + statistics + cKDTree", "heart:load", "scipy:load", 8, same_result=True),
     Comparison(_LOAD, "nanoflann, building alone", "heart:load", "nanoflann:build/32767"),
-    Comparison("colour map as PDF, time", "a polygon a cell", "pictures:pdf", "pictures:plain/pdf", 10),
-    Comparison("colour map as PDF, bytes", "a polygon a cell", "pictures:pdf", "pictures:plain/pdf", 15,
+    Comparison("colour map as PDF, time", "a polygon a cell", "pictures:pdf", "pictures:plain/pdf", 15),
+    Comparison("colour map as PDF, bytes", "a polygon a cell", "pictures:pdf", "pictures:plain/pdf", 25,
                of_results=True),
 )
 
