@@ -20,9 +20,13 @@ bool fails() {
 
 }  // namespace
 
-// The other forms of `new` and `delete` come down to these two.
+// The other forms of `new` and `delete` come down to these, also under a sanitizer, which brings its own.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return fails() ? nullptr : std::malloc(size == 0 ? 1 : size);
+}
+
 void* operator new(std::size_t size) {
-  void* const block = fails() ? nullptr : std::malloc(size == 0 ? 1 : size);
+  void* const block = operator new(size, std::nothrow);
   if (!block) throw std::bad_alloc();
   return block;
 }
