@@ -28,12 +28,12 @@ void CellMapFrame::fill_in_settings() {
   if (resolution_ == 0) Resolution(default_resolution);
 }
 
-void CellMapFrame::prepare_redraw() {
+void CellMapFrame::prepare_redraw() {  // contract 95
   if (!is_too_coarse()) return;
   resolution_ = coarsest();
   notify("Resolution");
   toolkit().message_box(tr("Maximal possible resolution is ") + StringFormat::plain_text(coarsest()) + " mm",
-                        tr("Standard resolution to high "), MessageIcon::critical);
+                        tr("Standard resolution to high "), MessageIcon::critical);  // contract 111
   ShowPlotOption();
 }
 

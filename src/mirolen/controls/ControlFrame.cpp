@@ -39,6 +39,7 @@ void ControlFrame::takes_focus(Button& button) {
   };
 }
 
+// contract 17
 std::int16_t ControlFrame::SetWaferData(const ArrayView& x, const ArrayView& y, const ArrayView& Z) {
   try {
     const std::int16_t result = GlobalFunctions::LoadSiteArrays(keeps_limits(), wafobj, x, y, Z);
@@ -107,7 +108,7 @@ std::int16_t ControlFrame::Plot() {
   if (wafobj.GetNop() == 0) return 1;
   PlotShown = true;
   if (wafobj.flat_ratio == 0) WaferStyle(WaferSt::Notch);
-  if (wafobj.WafDiam == 0) WaferDiameter(default_wafer_diameter);
+  if (wafobj.WafDiam == 0) WaferDiameter(default_wafer_diameter);  // contract 30
   if (wafobj.test_diam == 0 || wafobj.test_diam > wafobj.WafDiam) TestDiameter(wafobj.WafDiam);
   fill_in_settings();
   const bool afresh = makes_up();
@@ -140,7 +141,7 @@ bool ControlFrame::SetPlotLimit(double LPL, double UPL) {
   if (UPL == wafobj.maximal && LPL == wafobj.minimal) return false;
   bool taken = false;
   quietly([&] { taken = GlobalFunctions::ApplyPlotLimit(wafobj, LPL, UPL); });
-  PlotLimitSet = taken;
+  PlotLimitSet = taken;  // contract 25
   if (taken) limits_changed();
   return taken;
 }
@@ -157,7 +158,7 @@ void ControlFrame::limits_changed() {
   if (PlotShown) Plot();
 }
 
-double ControlFrame::range() const { return finite_or_zero(wafobj.maxi - wafobj.mini); }
+double ControlFrame::range() const { return finite_or_zero(wafobj.maxi - wafobj.mini); }  // contract 28
 
 double ControlFrame::HiLo() const {
   const double sum = wafobj.maxi + wafobj.mini;
@@ -165,11 +166,11 @@ double ControlFrame::HiLo() const {
 }
 
 double ControlFrame::StdDevPercent() const {
-  return wafobj.mean <= 0 ? 0 : finite_or_zero(std::abs(wafobj.StdDev / wafobj.mean) * 100);
+  return wafobj.mean <= 0 ? 0 : finite_or_zero(std::abs(wafobj.StdDev / wafobj.mean) * 100);  // contract 27
 }
 
 std::int16_t ControlFrame::PrintWaferStatistic(double left, double top, const std::string& units) {
-  if (all_finite({left, top})) wafobj.Meas_unit = units;
+  if (all_finite({left, top})) wafobj.Meas_unit = units;  // contract 24
   return print_block({left, top}, [&](PrintWafer& page) { page.DrawWaferStatistics(wafobj, left, top); });
 }
 
@@ -179,7 +180,7 @@ std::int16_t ControlFrame::PrintWaferSize(double left, double top) {
 
 void ControlFrame::WaferDiameter(double v) {
   if (!is_finite(v)) return;
-  wafobj.reset();
+  wafobj.reset();  // contract 30
   quietly([&] { wipe_drawing(); });
   forget_snapshot();
   PlotShown = false;

@@ -62,7 +62,7 @@ class ControlFrame : public UserControl {
   /// Nothing happens while the form is shown already.
   void ShowPlotOption();
   /// Makes the next `Plot` or change of size draw afresh.
-  void SetPlotNotVaild() { PlotValid = false; }
+  void SetPlotNotVaild() { PlotValid = false; }  // contract 1
 
   /// Sets the ends of the scale; draws at once if there is a plot. @return true if a new limit was taken: LPL
   /// below UPL and not both in force already. A refused one leaves scale and plot as they are.
@@ -94,7 +94,7 @@ class ControlFrame : public UserControl {
   /// the number of those that lie within.
   void TestDiameter(double v);
   WaferSt WaferStyle() const {
-    return wafobj.flat_ratio == flat_ratio_of_a_flat ? WaferSt::Flat : WaferSt::Notch;
+    return wafobj.flat_ratio == flat_ratio_of_a_flat ? WaferSt::Flat : WaferSt::Notch;  // contract 29
   }
   void WaferStyle(WaferSt v);
 
@@ -112,7 +112,7 @@ class ControlFrame : public UserControl {
   /// The system's handle of the control's window, 0 without one; its device context, 0 where there is no such
   /// thing.
   std::int32_t hwnd() const;
-  std::int32_t hdc() const { return 0; }
+  std::int32_t hdc() const { return 0; }  // contract 16
 
   // ---- Printing, at places in twips of the page (1/1440 inch) ----
   // The host starts and ends the job and its pages, and calls for one piece of a page after the other.
@@ -164,7 +164,7 @@ class ControlFrame : public UserControl {
   /// The last step of `Plot`.
   virtual void show_plot() = 0;
   /// The first step of the resize handler, which changes the host's form; may throw.
-  virtual void set_scale_of_host() { container_.ScaleMode(twips); }
+  virtual void set_scale_of_host() { container_.ScaleMode(twips); }  // contract 37
   /// The other steps of the resize handler; may throw RunTimeError.
   virtual void lay_out() = 0;
   /// Empties the drawing and its snapshot after the data have changed.
@@ -175,7 +175,7 @@ class ControlFrame : public UserControl {
 
   /// Asks with the control's form, takes the answers and draws; may throw. A control without a form does
   /// nothing.
-  virtual void ask_options() {}
+  virtual void ask_options() {}  // contract 41
   /// Shows a form, unless one is shown already. @return whether the user has confirmed.
   bool confirmed(OptionForm& form);
 
@@ -205,7 +205,7 @@ class ControlFrame : public UserControl {
   /// The same for a block. @return as `PrintWaferStatistic`.
   template <class Print>
   std::int16_t print_block(Place place, Print print) const {
-    if (!can_print()) return 1;
+    if (!can_print()) return 1;  // contract 23
     print_at(place, print);
     return 0;
   }

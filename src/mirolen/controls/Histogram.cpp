@@ -9,7 +9,7 @@ namespace mirolen {
 namespace {
 
 constexpr std::int16_t default_classes = 10;
-constexpr double least_side = 2000;
+constexpr double least_side = 2000;  // contract 36
 
 }  // namespace
 
@@ -24,7 +24,7 @@ Histogram::Histogram(Toolkit& toolkit, Container& container) : ControlFrame(tool
   PLOTA.BackColor = QBColor(15);
   for (int i = 0; i < 2; ++i) lblX(i).Font = FontSpec{"Symbol"};
   copypic.Visible = false;
-  control_limits().ShowCL = false;
+  control_limits().ShowCL = false;  // contract 86
   realize();
 }
 
@@ -80,7 +80,7 @@ void Histogram::clear() {
 
 bool Histogram::SetPlotLimit(double LPL, double UPL) {
   if (!all_finite({LPL, UPL})) return false;
-  set_limits(true, LPL, UPL);
+  set_limits(true, LPL, UPL);  // contract 26
   return true;
 }
 
@@ -159,7 +159,7 @@ void Histogram::place_chart() {
   const SurfaceSize pixel = toolkit().twips_per_pixel();
   const double left = PLOTA.left();
   if (ChartTop != 0) {
-    PLOTA.Top = (ChartTop / pixel.width - histPic.Top / pixel.width) * pixel.height;
+    PLOTA.Top = (ChartTop / pixel.width - histPic.Top / pixel.width) * pixel.height;  // contract 89
     PLOTA.Width = (histPic.ScaleWidth() - left - 20) * pixel.width;
     PLOTA.Height = ChartHeight;
   } else {
@@ -187,7 +187,7 @@ void Histogram::place_lines() {
 template <class Print>
 std::int16_t Histogram::print_chart(Place place, Print print) const {
   constexpr double least = 100;
-  if (!can_print()) return 1;
+  if (!can_print()) return 1;  // contract 22
   if (ScaleWidth() < least || ScaleHeight() < least) return 2;
   print_at(place, print);
   return 0;

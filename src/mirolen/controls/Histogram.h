@@ -61,7 +61,7 @@ class Histogram : public ControlFrame {
   LineShape Line3{&histPic};
   ControlArray<Label, 0, 2> lblX{&histPic};
   Button Command1{this, "Plot- Options"};
-  PictureBox copypic{this};
+  PictureBox copypic{this};  // contract 15
 
  protected:
   std::int16_t about_type() const override { return 7; }

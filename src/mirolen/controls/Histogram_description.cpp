@@ -29,7 +29,7 @@ automation::ClassInfo describe_Histogram() {
                 return c.PrintPlot_THN(left, top, width, height);
               });
 
-  describe::stored_wafer(tell, "");
+  describe::stored_wafer(tell, "");  // contract 45
   tell.stored("StdBeamColor", Type::int32, static_cast<std::int32_t>(QBColor(2)), "BeamColor")
       .stored("StdGaussCurveColor", Type::int32, static_cast<std::int32_t>(QBColor(4)), "GaussCurveColor")
       .stored("StdStatResol", Type::int16, 10, "Resolution")

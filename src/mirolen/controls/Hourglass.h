@@ -8,7 +8,7 @@ namespace mirolen {
 class Hourglass {
  public:
   explicit Hourglass(UserControl& control) : control_(control) { control_.MousePointer = 11; }
-  ~Hourglass() { control_.MousePointer = 0; }
+  ~Hourglass() { control_.MousePointer = 0; }  // contract 38
   Hourglass(const Hourglass&) = delete;
   Hourglass& operator=(const Hourglass&) = delete;
 

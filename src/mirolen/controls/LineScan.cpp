@@ -98,7 +98,7 @@ void LineScan::show_panels() {
 }
 
 void LineScan::angle(std::int16_t v) {
-  if (v < 0 || v > full_turn) {
+  if (v < 0 || v > full_turn) {  // contract 35
     quietly([&] {
       toolkit().message_box(tr("Angle value must be between 0 and 359"), tr("Input Error"),
                             MessageIcon::critical);
@@ -112,7 +112,7 @@ void LineScan::angle(std::int16_t v) {
 
 void LineScan::tell_angle() {
   told_angle_ = angle_;
-  notify("Angle");
+  notify("Angle");  // contract 6
 }
 
 void LineScan::set_point(double& coordinate, std::int16_t v, const char* property) {
@@ -144,6 +144,7 @@ void LineScan::SetLineOrAngle(PlotTypeEnumLineScan PlotType, std::int16_t angle,
   }
 }
 
+// contract 34
 std::int16_t LineScan::GetLineOrAngle(std::int16_t& angle, double& StartX, double& StartY, double& EndX,
                                       double& EndY) const {
   if (line_mode()) {
@@ -275,7 +276,7 @@ void LineScan::angle_text_changed() {
   if (!IsInRangeOrOpen(text, -1, full_turn) || !IsPlainInteger(text)) return AngleValue.Text("0");
   angle_ = to_int16(number_in(text));
   turn_spinner();
-  draw_by_angle();
+  draw_by_angle();  // contract 90
 }
 
 /// An emptied field stays empty, though the spinner goes to 0.

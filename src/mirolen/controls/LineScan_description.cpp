@@ -34,8 +34,8 @@ automation::ClassInfo describe_LineScan() {
               [](LineScan& c, std::int16_t& angle, double& StartX, double& StartY, double& EndX,
                  double& EndY) { return c.GetLineOrAngle(angle, StartX, StartY, EndX, EndY); });
 
-  describe::stored_wafer(tell, "");
-  // Both end keys hold the x of the end: the second one is what a load leaves there.
+  describe::stored_wafer(tell, "");  // contract 45
+  // Both end keys hold the x of the end: the second one is what a load leaves there. (contract 43)
   tell.stored("RotAngle", Type::int16, 0, "angle")
       .stored("1DPlotType", Type::int16, 1, "PlotType")
       .stored("1DRotationX", Type::int16, 0, "RotationPointX")

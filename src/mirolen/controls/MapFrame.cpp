@@ -23,7 +23,7 @@ MapFrame::MapFrame(Toolkit& toolkit, Container& container) : ControlFrame(toolki
 }
 
 void MapFrame::place_children() {
-  Frplot.Caption = " Wafer ";  // a property of the host, so in no language
+  Frplot.Caption = " Wafer ";  // a property of the host, so in no language (contract 112, 113)
   PLOTA.Move(120, 240);
   frmove.Border = false;
   frmove.Height = 4290;
@@ -69,7 +69,7 @@ void MapFrame::forget_snapshot() {
   RePlot.Picture = nullptr;
 }
 
-void MapFrame::HideLegend(bool v) {
+void MapFrame::HideLegend(bool v) {  // contract 31
   frmove.Visible = !v;
   LegendShown = !v;
   Refresh();
@@ -77,7 +77,7 @@ void MapFrame::HideLegend(bool v) {
   notify("HideLegend");
 }
 
-void MapFrame::BackColor(Color v) {
+void MapFrame::BackColor(Color v) {  // contract 40
   frmove.BackColor = v;
   legende.BackColor = v;
   FNPic.BackColor = v;
@@ -108,7 +108,7 @@ void MapFrame::lay_out() {
   const bool enough_room = LegendShown ? lay_out_legend() : lay_out_bare();
   if (!enough_room) return;
 
-  Frplot.Width = 0.97 * plot_side_;
+  Frplot.Width = 0.97 * plot_side_;  // contract 94
   Frplot.Height = plot_side_;
   PLOTA.Width = Frplot.Width - 2 * PLOTA.Left;
   PLOTA.Height = Frplot.Height - PLOTA.Top - PLOTA.Left;
@@ -161,7 +161,7 @@ void MapFrame::size_legend() {
 bool MapFrame::lay_out_bare() {
   if (too_small()) {
     raise_size(smallest_size());
-    return false;
+    return false;  // contract 36
   }
   plot_side_ = to_int32(std::min(ScaleWidth(), ScaleHeight()));
   return true;

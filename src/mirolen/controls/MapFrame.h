@@ -46,7 +46,7 @@ class MapFrame : public ControlFrame {
   Label FNLabel{&frmove, "Flat"};
   PictureBox FNPic{&frmove};
   Button Command1{&frmove, "Plot- Options"};
-  PictureBox copypic{this};
+  PictureBox copypic{this};  // contract 15
 
  protected:
   MapFrame(Toolkit& toolkit, Container& container);

@@ -12,7 +12,7 @@ constexpr std::int16_t full_turn = 360, beyond_right_angle = 92;
 
 std::int16_t in_range(std::int16_t v, std::int16_t beyond, std::int16_t fallback) {
   if (v < 0) return 0;
-  return v >= beyond ? fallback : v;
+  return v >= beyond ? fallback : v;  // contract 32
 }
 
 std::int16_t clipped(int angle) { return static_cast<std::int16_t>(std::clamp(angle, 0, 90)); }
@@ -26,7 +26,7 @@ PerspectiveFrame::PerspectiveFrame(Toolkit& toolkit, Container& container) : Map
 }
 
 void PerspectiveFrame::WaferRotation(std::int16_t v) {
-  wafer_rotation_ = in_range(v, full_turn, default_rotation);
+  wafer_rotation_ = in_range(v, full_turn, default_rotation);  // contract 31
   Refresh();
   notify("WaferRotation");
 }
@@ -103,7 +103,7 @@ void PerspectiveFrame::take_angle(std::int16_t& angle, std::int16_t v, const cha
 
 void PerspectiveFrame::end_drag(const MouseEvent& event) {
   try {
-    host().MouseUp(event);
+    host().MouseUp(event);  // contract 39
   } catch (...) {
     Dragging = false;
     throw;

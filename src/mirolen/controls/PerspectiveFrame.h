@@ -11,7 +11,7 @@ class ViewOptions;
 class PerspectiveFrame : public MapFrame {
  public:
   /// Read by nothing: dragging always turns the plot.
-  bool EnableRotation = true;
+  bool EnableRotation = true;  // contract 12
 
   // Whole degrees. A value beyond the range falls back to the default, one below 0 becomes 0.
   std::int16_t WaferRotation() const { return wafer_rotation_; }

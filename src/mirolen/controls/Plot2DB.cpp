@@ -26,7 +26,7 @@ void Plot2DB::InitProperties() {
   GridRotation(40);
   WaferRotation(40);
   GridInclination(35);
-  BeamScale(1);
+  BeamScale(1);  // contract 49
   HideLegend(false);
   PlotCaption("Wafer");
 }

@@ -12,7 +12,7 @@ class Plot2DB : public PerspectiveFrame {
   // Footprint of a bar in millimetres.
   double BeamWidth() const { return beam_width_; }
   void BeamWidth(double v) { set_size(beam_width_, v, "BeamWidth"); }
-  double BeamHeight() const { return beam_height_; }
+  double BeamHeight() const { return beam_height_; }  // contract 9
   void BeamHeight(double v) { set_size(beam_height_, v, "BeamHeight"); }
   double BeamScale() const { return beam_scale_; }
   /// Height of a bar, millimetres a unit of value.

@@ -17,7 +17,7 @@ automation::ClassInfo describe_Plot2DB() {
       .property("BeamScale", "height of a bar, mm a unit of value", &Plot2DB::BeamScale, &Plot2DB::BeamScale);
 
   describe::stored_wafer(tell, "2DB", Type::int16);
-  describe::stored_colors(tell, "2DInterCol", default_interval_colors);
+  describe::stored_colors(tell, "2DInterCol", default_interval_colors);  // contract 44
   tell.stored("Stdbx2DB", Type::int16, 5, "BeamWidth").stored("Stdby2DB", Type::int16, 5, "BeamHeight");
   describe::stored_view(tell, "2DB");
   tell.stored("StdD3Scale2DB", Type::int16, 10, "BeamScale");

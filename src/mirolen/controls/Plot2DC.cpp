@@ -128,10 +128,10 @@ void Plot2DC::InitProperties() {
   Resolution(ResoEnum::LowQuality);
   marksites(ExconEnum::Exact);
   Interval(1);
-  PlotColored(static_cast<DrawColEnum>(-1));
+  PlotColored(static_cast<DrawColEnum>(-1));  // contract 49
   HideLegend(false);
   PlotCaption("Wafer");
-  IntervalInPercent(-1);
+  IntervalInPercent(-1);  // contract 49
 }
 
 void Plot2DC::fill_in_settings() {
@@ -147,6 +147,7 @@ double Plot2DC::distance() const {
 }
 
 double Plot2DC::drawn_distance() const {
+  // contract 65
   return interval_in_percent_ == 0 ? interval_ : contour_interval_in_percent(wafobj, range(), interval_);
 }
 
@@ -170,7 +171,7 @@ void Plot2DC::draw_plot() {
 std::int16_t Plot2DC::PrintPlot(double left, double top, double width, double height, bool DrawFrame) {
   return print_plot({left, top, width, height}, least_map, least_map, [&](PrintWafer& page) {
     // Paper and screen show the same curves: the property's 0 says percent.
-    const bool in_percent = interval_in_percent_ == 0;
+    const bool in_percent = interval_in_percent_ == 0;  // contract 65
     const MessagesThrough messages(toolkit());
     page.Print_Contour(wafobj, left, top, width, height, interval_, in_percent, measurement_unit_,
                        static_cast<std::int16_t>(marksites_), static_cast<std::int16_t>(resolution_),

@@ -28,7 +28,7 @@ class Plot2DC : public MapFrame {
   void PlotColored(DrawColEnum v);
   std::int16_t ScaleType() const { return scale_type_; }
   /// For the host.
-  void ScaleType(std::int16_t v);
+  void ScaleType(std::int16_t v);  // contract 12
 
   Color MeanCurveColor() const { return color_in(wafobj.ColS2); }
   void MeanCurveColor(Color v);

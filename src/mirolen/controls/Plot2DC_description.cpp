@@ -46,11 +46,11 @@ automation::ClassInfo describe_Plot2DC() {
       .stored("2DCLowerCurveCol", Type::int32, static_cast<std::int32_t>(default_sigma_colors[2]),
               "LowerCurveColor");
   describe::stored_colors(tell, "2DCInterCol", default_interval_colors);
-  tell.stored("StdReso", Type::int16, 0, "Resolution")
+  tell.stored("StdReso", Type::int16, 0, "Resolution")  // contract 45
       .stored("StdExCon", Type::int16, 1, "marksites")
-      .stored("StdDist", Type::int16, 1, "Interval")
+      .stored("StdDist", Type::int16, 1, "Interval")  // contract 47
       .stored("StdColor", Type::int16, 1, "PlotColored")
-      .stored("StdDistPerecent", Type::int16, 0, "IntervalInPercent");
+      .stored("StdDistPerecent", Type::int16, 0, "IntervalInPercent");  // contract 46
   describe::stored_window(tell, "2DC", "Wafer");
   return tell.build();
 }

@@ -17,7 +17,8 @@ automation::ClassInfo describe_Plot2D() {
                  const double& height) { return c.PrintGridPlot(left, top, width, height); });
 
   describe::stored_wafer(tell, "2D");
-  describe::stored_colors(tell, "2DInterCol", default_interval_colors);
+  describe::stored_colors(tell, "2DInterCol", default_interval_colors);  // contract 44
+  // contract 47
   tell.stored("StdResx2D", Type::int16, 5, "Resolution").stored("StdMark2D", Type::int32, 0, "ShowSites");
   describe::stored_window(tell, "2D", "Wafer");
   return tell.build();

@@ -18,7 +18,7 @@ automation::ClassInfo describe_Plot3D() {
       .from("PlotTypeEnum");
 
   describe::stored_wafer(tell, "3D", Type::int16);
-  describe::stored_colors(tell, "2DInterCol", default_interval_colors);
+  describe::stored_colors(tell, "2DInterCol", default_interval_colors);  // contract 44
   tell.stored("StdResx3D", Type::int16, 5, "XResolution").stored("StdResy3D", Type::int16, 5, "YResolution");
   describe::stored_view(tell, "3D");
   tell.stored("StdD3PlotType", Type::int32, 1, "PlotType")

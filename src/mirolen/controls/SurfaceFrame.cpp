@@ -23,7 +23,7 @@ void SurfaceFrame::XResolution(double v) { set_step(x_resolution_, v, "XResoluti
 void SurfaceFrame::YResolution(double v) { set_step(y_resolution_, v, "YResolution"); }
 
 void SurfaceFrame::PlotScale(std::int16_t v) {
-  plot_scale_ = v < 1 ? std::int16_t{0} : v;
+  plot_scale_ = v < 1 ? std::int16_t{0} : v;  // contract 33
   look_changed("PlotScale");
 }
 

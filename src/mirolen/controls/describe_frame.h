@@ -28,7 +28,7 @@ void data(ClassBuilder<Control>& tell) {
               [](Control& c, Array& x, Array& y, Array& Z) { return c.GetWaferData(x, y, Z); })
       .method("Interpolation", "the value at a point, in mm", {"x", "y"},
               [](Control& c, const double& x, const double& y) { return c.Interpolation(x, y); })
-      .read_only("mean", "mean of the values", &Control::mean)
+      .read_only("mean", "mean of the values", &Control::mean)  // contract 5
       .read_only("Maximum", "largest value", &Control::Maximum)
       .read_only("Minimum", "smallest value", &Control::Minimum)
       .read_only("range", "largest minus smallest value", &Control::range)
@@ -44,7 +44,7 @@ void plotting(ClassBuilder<Control>& tell) {
       .method("ShowPlotOption", "lets the user change how the plot is drawn", {},
               [](Control& c) { c.ShowPlotOption(); })
       .method("clear", "erases the drawing, keeps the data", {}, [](Control& c) { c.clear(); })
-      .method("SetPlotNotVaild", "makes the next plot draw afresh", {},
+      .method("SetPlotNotVaild", "makes the next plot draw afresh", {},  // contract 1
               [](Control& c) { c.SetPlotNotVaild(); })
       .method("SetPlotLimit", "sets the ends of the scale; True if taken", {"LPL", "UPL"},
               [](Control& c, const double& LPL, const double& UPL) { return c.SetPlotLimit(LPL, UPL); })
@@ -181,8 +181,8 @@ ClassBuilder<Control> frame(const char* name) {
 template <class Control>
 void stored_wafer(ClassBuilder<Control>& tell, const std::string& prefix, Type style = Type::int32) {
   tell.stored(prefix + "BackColor", Type::int32, std::nullopt, "BackColor")
-      .stored(prefix + "FLAT", style, 1, "WaferStyle")
-      .stored(prefix + "TESTDM", Type::int16, 194, "TestDiameter")
+      .stored(prefix + "FLAT", style, 1, "WaferStyle")              // contract 48
+      .stored(prefix + "TESTDM", Type::int16, 194, "TestDiameter")  // contract 47, 50
       .stored(prefix + "WAFERDM", Type::int16, 200, "WaferDiameter");
 }
 

@@ -62,8 +62,9 @@ void describe_statistics(ClassBuilder<wafer>& tell) {
       .field("maxHauf", "largest class count of a histogram", &wafer::maxHauf)
       .field("GaussMax", "scale of the Gauss curve", &wafer::GaussMax)
       .method("MaxMin", "computes all statistics and the index", {}, [](wafer& w) { w.MaxMin(); })
-      .method("setMaximalMinial", "sets the plot limits", {"maxim", "minim"},
+      .method("setMaximalMinial", "sets the plot limits", {"maxim", "minim"},  // contract 2
               [](wafer& w, double maxim, double minim) { w.setMaximalMinial(maxim, minim); })
+      // contract 2
       .method("Globlal_Value_Sub_Mean", "sum of the squared distances from a value", {"glmean"},
               [](const wafer& w, const double& glmean) { return w.Globlal_Value_Sub_Mean(glmean); })
       .method("Points_OutCL", "counts the sites beyond control limits", {"LCL", "UCL"},
@@ -87,7 +88,7 @@ void describe_store(ClassBuilder<wafer>& tell) {
               [](const wafer& w, std::int16_t ind, Array& gr) { return w.GetGridValue(ind, gr); })
       .method("Interpolation", "the value at a point, mm", {"Xa", "Ya"},
               [](const wafer& w, double Xa, double Ya) { return w.Interpolation(Xa, Ya); })
-      .method("Interpolation_Einfach", "the same by a scan of all sites", {"Xa", "Ya"},
+      .method("Interpolation_Einfach", "the same by a scan of all sites", {"Xa", "Ya"},  // contract 3
               [](const wafer& w, double Xa, double Ya) { return w.Interpolation_Einfach(Xa, Ya); });
 }
 

@@ -52,12 +52,12 @@ bool all_finite(Numbers numbers) {
   return finite;
 }
 
-/// The elements from 1 to n, up to the first that is missing.
+/// The elements from 1 to n, up to the first that is missing. (contract 19)
 Numbers first_elements(const ArrayView& array, std::int32_t n) {
   return array.has(1) ? array.part(1, n) : Numbers();
 }
 
-/// The first count numbers of a file, 0 where it holds none.
+/// The first count numbers of a file, 0 where it holds none. (contract 21)
 std::vector<double> read_numbers(const std::string& datafile, std::size_t count) {
   const std::filesystem::path path(std::u8string(datafile.begin(), datafile.end()));
   std::error_code unknown;
@@ -101,7 +101,7 @@ void load_file(bool PlotLimitSet, wafer& wafer, const std::string& datafile, dou
 std::int16_t LoadSiteArrays(bool PlotLimitSet, wafer& wafer, const ArrayView& x, const ArrayView& y,
                             const ArrayView& Z) {
   // One of x and Z may differ from y and pass: too short an array is then found when it is read.
-  if (x.UBound() != y.UBound() && Z.UBound() != y.UBound()) return 1;
+  if (x.UBound() != y.UBound() && Z.UBound() != y.UBound()) return 1;  // contract 18
   const std::int16_t hi = to_int16(static_cast<double>(x.UBound()));
   if (x.LBound() != y.LBound() && Z.LBound() != y.LBound()) return 2;
   const std::int16_t lo = to_int16(static_cast<double>(x.LBound()));
@@ -155,7 +155,7 @@ void ClipToTestDiameter(bool PlotLimitSet, wafer& wafer, double new_diameter) {
   const KeptLimits limits(PlotLimitSet, wafer);
   wafer.reset();
   wafer.SetNop(kept);
-  for (std::int32_t k = 0; k < kept; ++k) {
+  for (std::int32_t k = 0; k < kept; ++k) {  // contract 51
     const Site& site = sites[static_cast<std::size_t>(k)];
     wafer.SetGridValue(site.x, site.y, site.z);
   }

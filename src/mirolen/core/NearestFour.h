@@ -8,7 +8,7 @@ namespace mirolen {
 
 /// The four nearest sites so far, nearest first. A distance that has found its slot is replaced by the marker
 /// for the slots behind it; where the marker lies below the slots' first distance, the first site fills all
-/// four.
+/// four. (contract 53)
 class NearestFour {
  public:
   NearestFour(double first_distance, double marker, std::int32_t first_site) : marker_(marker) {

@@ -49,7 +49,7 @@ double wafer::farthest_sure_distance() const { return std::min(empty_slot(), fil
 
 double wafer::empty_slot() const {
   const double R = test_diam / 2;
-  const double sentinel = 9 * R * R;
+  const double sentinel = 9 * R * R;  // contract 52
   return is_finite(sentinel) ? sentinel : 0;
 }
 
@@ -79,14 +79,14 @@ double wafer::mean_of_near_sites(double Xa, double Ya) const {
     if (SiteCells.contains(home)) insert_cell(home.x, home.y);
 
     // The reach starts as a part of a cell and grows by millimetres, and its square is held against a
-    // distance: that is the measure that decides how many rings are looked at.
+    // distance: that is the measure that decides how many rings are looked at. (contract 54)
     double reach = SiteCells.to_line(Xa, Ya);
     for (std::int64_t ring = 1; ring <= bounds.last && nearest.farthest() > reach * reach; ++ring) {
       reach += SiteCells.GridCell();
       if (ring >= bounds.first) Ring{home.x, home.y, ring}.visit(SiteCells.side(), insert_cell);
     }
   }
-  return value_from(nearest, [&](std::int32_t site) { return value_of(site + 1); });
+  return value_from(nearest, [&](std::int32_t site) { return value_of(site + 1); });  // contract 55
 }
 
 double wafer::Interpolation_Einfach(double Xa, double Ya) const {

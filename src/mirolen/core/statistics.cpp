@@ -38,12 +38,12 @@ void wafer::set_scale(double high, double low) {
   const double spread = checked(high - low), sum = checked(high + low);
   const double percent = sum == 0 ? 0 : checked(std::abs(spread / sum) * 100);
   const double base = high == low ? base_of_equal_limits(low) : low;
-  range = spread;
+  range = spread;  // contract 28
   HiLo = percent;
   Low = base;
 }
 
-double wafer::base_of_equal_limits(double limit) {
+double wafer::base_of_equal_limits(double limit) {  // contract 56
   return checked((limit < 0 ? limit * 1.1 : limit * 0.9) - 0.001);
 }
 
@@ -62,6 +62,7 @@ void wafer::Points_OutCL(double LCL, double UCL) {
   }
 }
 
+// contract 57
 double wafer::Gauss(double hist_x) const { return StdNormal(divide(checked(hist_x - mean), StdDev)); }
 
 double wafer::StdNormal(double u) { return 1 / std::sqrt(2 * Pi) * std::exp(-0.5 * checked(u * u)); }

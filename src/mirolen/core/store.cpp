@@ -39,7 +39,7 @@ void wafer::SetNop(double Number) {
 }
 
 void wafer::SetGridValue(double x, double y, double Z) {
-  if (NextSite > Nop) return;
+  if (NextSite > Nop) return;  // contract 20
   store_site(to_int32(NextSite), x, y, Z);
   NextSite += 1;
 }

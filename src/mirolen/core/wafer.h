@@ -51,17 +51,17 @@ class wafer {
   double col5 = default_interval_colors[4], col6 = default_interval_colors[5];
   double col7 = default_interval_colors[6], col8 = default_interval_colors[7];
   double col9 = default_interval_colors[8], col10 = default_interval_colors[9];
-  /// The sigma colours: above, inside and below the range.
+  /// The sigma colours: above, inside and below the range. (contract 42)
   double ColS1 = default_sigma_colors[0], ColS2 = default_sigma_colors[1], ColS3 = default_sigma_colors[2];
 
   // ---- Flags ----
   std::int16_t Save = 0, NewFile = 0;  ///< For the host; the library neither reads nor writes them.
-  bool FW_NUll = false;                ///< A stored value was zero, or nearer to zero than 1e-15.
-  bool FW_Negativ = false;             ///< A stored value was negative.
-  bool changeResx = true;              ///< Set when a surface's resolution changes; for the host.
+  bool FW_NUll = false;     ///< A stored value was zero, or nearer to zero than 1e-15. (contract 2)
+  bool FW_Negativ = false;  ///< A stored value was negative. (contract 2)
+  bool changeResx = true;   ///< Set when a surface's resolution changes; for the host. (contract 12)
 
   // ---- Source file, for the host ----
-  std::string FileDT, filename, DirFileName;
+  std::string FileDT, filename, DirFileName;  // contract 12
 
   // ---- Statistics of the last `MaxMin`, in the unit of z ----
   double mean = 0, StdDev = 0;      ///< StdDev is the sample deviation (divisor n - 1).
@@ -70,7 +70,7 @@ class wafer {
   double HiLo = 0;                ///< |maximal - minimal| / |maximal + minimal| in percent; 0 for a sum of 0.
   double Low = 0;                 ///< Scale base: `minimal`, or a little below it where the limits are equal.
   double range = 0;               ///< maximal - minimal.
-  double Summe_Value = 0;         ///< Sum of all values.
+  double Summe_Value = 0;         ///< Sum of all values. (contract 3)
   double NptLCL = 0, NptUCL = 0;  ///< Sites below and above the control limits of `Points_OutCL`.
   double vLcl = 0, vUcl = 0;      ///< Plot limits of a histogram.
 
@@ -82,10 +82,11 @@ class wafer {
 
   // ---- Texts of report headers ----
   std::string Meas_unit;  ///< Unit of z.
+  // contract 4, 12
   std::string Recognize, Special, equip, wafer, Operator, FAB, lot, meq;
 
   // ---- Results of the histogram chart ----
-  std::int32_t maxHauf = 0;  ///< Largest class count.
+  std::int32_t maxHauf = 0;  ///< Largest class count. (contract 3)
   double GaussMax = 0;       ///< Scale of the Gauss curve.
 
   // ---- Store ----
@@ -101,9 +102,9 @@ class wafer {
   void SetGridValue(double x, double y, double Z);
   /// Writes site i, 1 or more; one beyond `GetNop` is dropped without a word. Statistics stay as they are.
   /// @throws SubscriptOutOfRange for i below 1, InvalidArgument as `SetGridValue`.
-  void SetGridValueD(std::int16_t i, double x, double y, double Z);
+  void SetGridValueD(std::int16_t i, double x, double y, double Z);  // contract 14
   /// As `SetGridValueD`, but @throws SubscriptOutOfRange for every i that is not a site.
-  void OverwriteGridValue(std::int16_t i, double x, double y, double Z);
+  void OverwriteGridValue(std::int16_t i, double x, double y, double Z);  // contract 14
   /// Puts x and y of site ind into gr(1) and gr(2) and returns its z.
   /// @throws SubscriptOutOfRange if there is no such site or gr lacks one of the two elements.
   double GetGridValue(std::int16_t ind, Array& gr) const;
@@ -117,11 +118,11 @@ class wafer {
   void MaxMin();
   /// Sets the plot limits and what follows from them (`range`, `HiLo`, `Low`). The order is not checked.
   /// @throws OverflowError, and changes nothing then.
-  void setMaximalMinial(double maxim, double minim);
+  void setMaximalMinial(double maxim, double minim);  // contract 2
   /// Sum of (z - glmean)^2 over all sites; 0 without any. @throws OverflowError.
-  double Globlal_Value_Sub_Mean(double glmean) const;
+  double Globlal_Value_Sub_Mean(double glmean) const;  // contract 2
   /// Counts the sites strictly below LCL into `NptLCL` and strictly above UCL into `NptUCL`.
-  void Points_OutCL(double LCL, double UCL);
+  void Points_OutCL(double LCL, double UCL);  // contract 14
   /// Height of the Gauss curve of `mean` and `StdDev` at hist_x; its peak is 0.39894 whatever the deviation.
   /// @throws DivisionByZero if `StdDev` is 0, OverflowError.
   double Gauss(double hist_x) const;
@@ -137,7 +138,7 @@ class wafer {
   void Interpolation(std::span<const double> Xa, std::span<const double> Ya, std::span<double> values) const;
   /// The same by a scan of all sites. Cost: linear in the number of sites.
   /// @throws SubscriptOutOfRange where fewer than four sites lie within 1.5 wafer diameters, OverflowError.
-  double Interpolation_Einfach(double Xa, double Ya) const;
+  double Interpolation_Einfach(double Xa, double Ya) const;  // contract 3
 
   // ---- Outline and orientation mark (on pictures whose scale is pixels) ----
   /// Draws the wafer with its flat or notch, turned by phi degrees and inclined to thet degrees (90: plan
@@ -146,6 +147,7 @@ class wafer {
   void FlatNotchShow(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double halb_a,
                      double phi, double thet) const;
   /// The same as an open arc round (x0, y0) with the radius halb_a, closed by the mark and filled.
+  // contract 14
   void FlatNotchShow1(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double halb_a,
                       double phi, double thet) const;
   /// Lays a scan line across the small wafer picture Plot and its mark plus beyond the line's start. Plotopt
@@ -207,6 +209,7 @@ class wafer {
                  double& top, std::int16_t ShowDisp);
   /// The same turned by a quarter, its base line at the right or at the left. breite and hoehe come back
   /// exchanged.
+  // contract 3
   void Statistic_Quer(bool RightD, PlotCanvas& Plot, PlotCanvas& histPic, double& x0, double& y0,
                       double& breite, double& hoehe, float stat_resol, std::int16_t& laenge, double& left,
                       double& top, std::int16_t ShowDisp);

@@ -22,7 +22,7 @@ void OptionForm::tell_ranges() {
                               tr(" and less than ") + StringFormat::plain_text(check.high);
 }
 
-double OptionForm::limit(double part) const {
+double OptionForm::limit(double part) const {  // contract 114
   constexpr double most = std::numeric_limits<std::int16_t>::max();
   return wafer_ ? std::min(most, round_half_even(wafer_->test_diam / part + 1)) : 0;
 }

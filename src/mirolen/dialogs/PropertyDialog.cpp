@@ -31,7 +31,7 @@ const std::vector<PageKind>& page_kinds() {
       {"Plot2DCProp", {"Plot2DC"}, make<Plot2DCProp>},
       {"Plot3DProp", {"Plot3D"}, make<Plot3DProp>},
       {"Plot3DSProp", {"Plot3DS"}, make<Plot3DSProp>},
-      {"HistogrammProp", {"Histogram"}, make<HistogrammProp>}};
+      {"HistogrammProp", {"Histogram"}, make<HistogrammProp>}};  // contract 11
   return kinds;
 }
 

@@ -7,7 +7,7 @@ namespace mirolen {
 std::vector<OptionForm::NumberCheck> SurfaceOptions::checks() {
   return {{tresx, tr("X Resolution "), 0.001, limit(4), tr("mm")},
           {tresy, tr("Y Resolution "), 0.001, limit(4), tr("mm")},
-          {tscale, tr("Scale Factor "), 1e-7, 1000, tr("height of the surface")}};
+          {tscale, tr("Scale Factor "), 1e-7, 1000, tr("height of the surface")}};  // contract 115
 }
 
 }  // namespace mirolen

@@ -16,7 +16,7 @@ class ViewOptions : public OptionForm {
   /// Sizes in millimetres.
   double GetResx() const { return tresx.value(); }
   double GetResy() const { return tresy.value(); }
-  double GetPlotSccale() const { return tscale.value(); }
+  double GetPlotSccale() const { return tscale.value(); }  // contract 10
 
   Frame frmplot;
   Label lblresx{&frmplot, "Resolution X:"};

@@ -41,7 +41,7 @@ WaferInfoProp::WaferInfoProp(Widget* container) : PropertyPage(container, "Wafer
   txtWaferDiameter.ToolTipText = above_zero(tr("mm"));
   txtTestDiameter.ToolTipText = tr("mm, not more than the wafer diameter");
   shows(txtWaferDiameter, "WaferDiameter", is_decimal, 200);
-  shows(txtTestDiameter, "TestDiameter", is_decimal, 195);
+  shows(txtTestDiameter, "TestDiameter", is_decimal, 195);  // contract 117
   choice(nfbox, "WaferStyle", [this] { show_mark(); });
   tick(showLeg, "HideLegend", true, false);
 }
@@ -55,6 +55,7 @@ void WaferInfoProp::show_mark() {
 bool WaferInfoProp::write_together(Controls controls) {
   const double diameter = number_in(txtWaferDiameter.Text()), test = number_in(txtTestDiameter.Text());
   if (single_precision(diameter) < single_precision(test)) {
+    // contract 111
     toolkit().message_box(tr("Wafer diamter can not be less than test diameter"), tr("Input Error"),
                           MessageIcon::none);
     return false;

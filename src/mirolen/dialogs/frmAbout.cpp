@@ -10,11 +10,12 @@
 namespace mirolen {
 namespace {
 
+// contract 118
 constexpr std::array texts{translatable("2D Plot"),
                            translatable("3D Plot"),
                            translatable("2D Sigma Range Plot"),
                            translatable("3D Sigma Range Plot"),
-                           translatable("2D Contour Plot "),
+                           translatable("2D Contour Plot "),  // contract 112
                            translatable("Line Scan"),
                            translatable("Histogram"),
                            translatable("2D Value Plot"),
@@ -44,7 +45,7 @@ frmAbout::frmAbout(Toolkit& toolkit) : Form(toolkit, "Sonvera.OCX ActiveX Contro
 }
 
 void frmAbout::SetTitle(std::int16_t type) {
-  std::string title = tr("Sonvera.OCX Type: ");
+  std::string title = tr("Sonvera.OCX Type: ");  // contract 110
   if (type >= 1 && static_cast<std::size_t>(type) <= texts.size())
     title += tr(texts[static_cast<std::size_t>(type - 1)]);
   draw_control_icon(picIcon, type);

@@ -117,7 +117,7 @@ void frmPlotOpt1D::enable_fields() {
 
 bool frmPlotOpt1D::leave(TextField& field, double& stored, int i) {
   if (!number_of(field, stored)) {
-    input_error(tr("Enter a numeric experssion"));
+    input_error(tr("Enter a numeric experssion"));  // contract 111
     field.Text(StringFormat::plain_text(stored));
     return false;
   }
@@ -126,8 +126,8 @@ bool frmPlotOpt1D::leave(TextField& field, double& stored, int i) {
   const double y = number_of(resy(i), line_.y[at]).value_or(line_.y[at]);
   const double radius = wafer_ ? wafer_->test_diam / 2 : 0;
   if (x * x + y * y > radius * radius) {
-    input_error(tr("Testdiameter exeded"));
-    resx(i).Text("0");
+    input_error(tr("Testdiameter exeded"));  // contract 111
+    resx(i).Text("0");                       // contract 116
     return false;
   }
   line_.x[at] = x;

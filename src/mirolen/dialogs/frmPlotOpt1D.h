@@ -25,7 +25,7 @@ class frmPlotOpt1D : public OptionForm {
   /// Gives back the angle, or the points in millimetres, as optline says; the others stay. @return whether it
   /// is the points.
   bool GetResult(std::int16_t& angle, double& StartX, double& StartY, double& EndX, double& EndY) const;
-  bool GetMarkeSites() const { return marks_shown(optMark); }
+  bool GetMarkeSites() const { return marks_shown(optMark); }  // contract 10
 
   Frame frmline{this, "Line"};
   ControlArray<OptionButton, 0, 2> optline{&frmline};  // by an angle, by two points

@@ -15,7 +15,7 @@ frmPlotOpt2DB::frmPlotOpt2DB(Toolkit& toolkit) : ViewOptions(toolkit, "3D Bar Pl
 std::vector<OptionForm::NumberCheck> frmPlotOpt2DB::checks() {
   return {{tresx, tr("Bar width "), 0.001, limit(2), tr("mm")},
           {tresy, tr("Bar depth "), 0.001, limit(2), tr("mm")},
-          {tscale, tr("Scale factor "), 1e-7, 1000, tr("mm a unit of the value")}};
+          {tscale, tr("Scale factor "), 1e-7, 1000, tr("mm a unit of the value")}};  // contract 115
 }
 
 }  // namespace mirolen

@@ -15,7 +15,7 @@ class frmPlotOpt2DC : public OptionForm {
                  std::int16_t show_color, Color back);
   double GetDist() const { return tdist.value(); }
   std::int16_t GetReso() const { return chosen(OptQuali, reso_); }
-  std::int16_t GetMarkeSites() const { return chosen(OptExcon, marks_); }
+  std::int16_t GetMarkeSites() const { return chosen(OptExcon, marks_); }  // contract 10
   std::int16_t GetShowColor() const { return chosen(Optcol, color_); }
   /// White, or the system's colour of a button's face.
   Color GetBackColor() const { return background_of(whiteback); }

@@ -24,7 +24,7 @@ void frmPlotOpt2d::SetValues(wafer& wafer, double resolution, bool mark_sites, C
 }
 
 std::vector<OptionForm::NumberCheck> frmPlotOpt2d::checks() {
-  return {{tresx, tr("Resolution "), 0.01, limit(4), tr("mm")}};
+  return {{tresx, tr("Resolution "), 0.01, limit(4), tr("mm")}};  // contract 112, 115
 }
 
 }  // namespace mirolen

@@ -12,7 +12,7 @@ class frmPlotOpt2d : public OptionForm {
   /// Resolution in millimetres; the marks are shown or not; the background is ticked for white.
   void SetValues(wafer& wafer, double resolution, bool mark_sites, Color back);
   double GetXRes() const { return tresx.value(); }
-  bool GetMarkeSites() const { return marks_shown(optMark); }
+  bool GetMarkeSites() const { return marks_shown(optMark); }  // contract 10
   /// White, or the system's colour of a button's face.
   Color GetBackColor() const { return background_of(whiteback); }
 

@@ -27,7 +27,7 @@ void frmPlotOpt2ds::SetValues(wafer& wafer, double resolution, bool mark_sites, 
 }
 
 std::vector<OptionForm::NumberCheck> frmPlotOpt2ds::checks() {
-  return {{tresx, tr("Resolution "), 0.001, limit(4), tr("mm")},
+  return {{tresx, tr("Resolution "), 0.001, limit(4), tr("mm")},  // contract 115
           {SSigma, tr("Sigma Range "), 0.001, 1000, tr("standard deviations")}};
 }
 

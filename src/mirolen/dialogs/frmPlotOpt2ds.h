@@ -12,7 +12,7 @@ class frmPlotOpt2ds : public OptionForm {
   /// Resolution in millimetres; the range in standard deviations.
   void SetValues(wafer& wafer, double resolution, bool mark_sites, Color back, double sigma_range);
   double GetXRes() const { return tresx.value(); }
-  bool GetMarkeSites() const { return marks_shown(optMark); }
+  bool GetMarkeSites() const { return marks_shown(optMark); }  // contract 10
   /// White, or the system's colour of a button's face.
   Color GetBackColor() const { return background_of(whiteback); }
   double GetSigRange() const { return SSigma.value(); }

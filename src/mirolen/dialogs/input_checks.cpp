@@ -77,7 +77,7 @@ bool IsAngleOrOpen(std::string_view text) { return IsInRangeOrOpen(text, -1, 361
 
 bool IsPlainDecimal(std::string_view text, bool minus_allowed) {
   if (text.empty()) return false;
-  if (!minus_allowed && text == "-") return false;
+  if (!minus_allowed && text == "-") return false;  // contract 13
   return numeric(text) && text.find_first_of("eEdD") == std::string_view::npos;
 }
 

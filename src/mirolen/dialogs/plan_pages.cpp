@@ -56,7 +56,7 @@ HistogrammProp::HistogrammProp(Widget* container) : PropertyPage(container, "His
   Rows rows(*this);
   rows.add(lblResolution, txtResolution);
   rows.add_group(frmplot, optPlot);
-  number(txtResolution, "Resolution", above_zero(tr("classes")), 0.01);
+  number(txtResolution, "Resolution", above_zero(tr("classes")), 0.01);  // contract 117
   choice(optPlot, "PlotType");
 }
 

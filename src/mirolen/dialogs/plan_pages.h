@@ -52,7 +52,7 @@ class Plot2DCProp : public PropertyPage {
 };
 
 /// The classes and the orientation of a histogram.
-class HistogrammProp : public PropertyPage {
+class HistogrammProp : public PropertyPage {  // contract 11
  public:
   explicit HistogrammProp(Widget* container);
 

@@ -35,6 +35,7 @@ class PrintWafer {
   /// Writes round center; what is too long loses a character at either end at once.
   void DrawCenterText(std::string& text, double center, double top, double width, std::int16_t color);
   /// Writes up to right; what is too long loses its start.
+  // contract 14
   void DrawRightText(std::string& text, double right, double top, double width, std::int16_t color);
   /// A group box whose top edge runs through the middle of its caption's line, one text height below top at
   /// its lower end; without a caption the edge is whole, and in the same place.
@@ -47,7 +48,7 @@ class PrintWafer {
   std::string FormatNonZero(double value, std::string format) const;
 
   // ---- Report blocks, 2775 twips wide ----
-  void DrawWaferRemarks(const wafer& wafer, double left, double top);
+  void DrawWaferRemarks(const wafer& wafer, double left, double top);  // contract 14
   void DrawWaferSize(const wafer& wafer, double left, double top);
   /// The unit is `Meas_unit` of the wafer.
   void DrawWaferStatistics(const wafer& wafer, double left, double top);
@@ -87,9 +88,11 @@ class PrintWafer {
 
   // ---- Plots without the orientation box ----
   /// The compact colour map hangs at the top of its frame, with a line of text below.
+  // contract 14
   void Print_2DPlot_THN(wafer& wafer, double left, double top, double width, double height, double res,
                         const std::string& caption, std::string& text);
-  /// The compact sigma map; unread is for callers that still hand it over.
+  /// The compact sigma map; unread is for callers that still hand it over. (contract 13)
+  // contract 14
   void Print_2DSigmaPlot_THN(wafer& wafer, double left, double top, double width, double height, double res,
                              double unread, double SigmaRange, const std::string& caption);
   /// The sites' numbers; unframed they fill the area.
@@ -112,6 +115,7 @@ class PrintWafer {
                          std::int16_t PlotColored, const std::string& caption, std::string& text,
                          bool framed);
   /// The interval as a line of text. @throws DivisionByZero as `Print_Contour`.
+  // contract 14
   void Print_Contour_Legend(const wafer& wafer, double left, double top, double Interval, bool percent,
                             const std::string& unit);
 
@@ -125,7 +129,7 @@ class PrintWafer {
   void DrawCutLine(const wafer& wafer, std::int16_t angle, std::int16_t PlotType, double RotationPointX,
                    double RotationPointY, double LineStartPointX, double LineStartPointY,
                    double LineEndPointX, double LineEndPointY, double left, double top);
-  /// The histogram. A step that fails is passed over. further is read by nothing.
+  /// The histogram. A step that fails is passed over. further is read by nothing. (contract 13)
   void Print_Histo(std::int16_t PlotType, wafer& wafer, double left, double top, double width, double height,
                    double Resolution, double further, const std::string& caption, bool framed);
   /// The same without a frame, from the top of the area to its bottom.

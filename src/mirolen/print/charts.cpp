@@ -99,7 +99,7 @@ void PrintWafer::DrawCutLine(const wafer& wafer, std::int16_t angle, std::int16_
     n = 100;
     g = wafer.WafDiam / 196;
   }
-  const double scale = divide(size, 2 * n * g);
+  const double scale = divide(size, 2 * n * g);  // contract 104
   const double x0 = left + size / 2, y0 = top + size / 2;
   print::canvas_of(PrinterObj)
       .Line(line_flags, x0 + scale * cut.scanStartX, y0 - scale * cut.scanStartY, x0 + scale * cut.scanEndX,
@@ -112,7 +112,7 @@ namespace {
 void print_histogram(PrintWafer& page, std::int16_t PlotType, wafer& wafer, double left, double top,
                      double width, double height, double Resolution, double n) {
   PlotCanvas& target = print::canvas_of(page.PrinterObj);
-  const ResumeNext pass_over([] {});
+  const ResumeNext pass_over([] {});  // contract 105
   double m = 0;
   pass_over([&] { m = to_int16(0.08 * width); });
   pass_over([&] { page.ResetPrinterObj(); });

@@ -40,9 +40,10 @@ void PrintWafer::Print_Contour(wafer& wafer, double left, double top, double wid
   std::string text = interval_text(Interval, suffix_of(IntervalInPercent, MeasurementUnit));
   DrawLeftText(text, xb, yb, interval_width, 0);
 
-  const double t = top + target.TextHeight("0");
+  const double t = top + target.TextHeight("0");  // contract 96
   const double w = width - 1215;
   const print::Square at = print::centred(left, t, w, height, print::plot_size(w, height));
+  // contract 106
   wafer.D2Contour(target, to_int16(at.size / 2), p, marksites, Resolution, PlotColored, at.left, at.top,
                   at.size, at.size, print::on_page);
   ResetPrinterObj();
@@ -56,7 +57,9 @@ void PrintWafer::Print_Contour_THN(wafer& wafer, double left, double top, double
   ResetPrinterObj();
   const double h = target.TextHeight("0");
   const double size = framed ? print::plot_size(width, height - 3 * h) : std::min(width, height);
+  // contract 65
   const double p = IntervalInPercent ? contour_interval_in_percent(wafer, wafer.range, Interval) : Interval;
+  // contract 107
   wafer.D2Contour(target, to_int16(size / 2), p, marksites, Resolution, PlotColored, left, top, size, size,
                   print::on_page);
   ResetPrinterObj();

@@ -47,7 +47,7 @@ void PrintWafer::DrawFlatNotchSymbol(double& x, double& y, double style, double&
     const double turn = rot * Pi / 180;
     const SurfacePoint A = P(rot + 10, r + r / 3), B = P(rot - 10, r + r / 3);
     const SurfacePoint T{x + 0.8 * std::sin(turn) * r, y + 0.8 * std::cos(turn) * (aspect * r)};
-    // B stands twice, and the last corner lies at A's x and B's y.
+    // B stands twice, and the last corner lies at A's x and B's y. (contract 103)
     cut_out(target, std::array{A, T, B, B, SurfacePoint{A.x, B.y}});
     draw_red(target, P(rot + 10, r), T);
     draw_red(target, T, P(rot - 10, r));

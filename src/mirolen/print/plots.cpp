@@ -19,7 +19,7 @@ struct View {
   double incl = print::from_above;
 };
 
-/// Below the line that the caption stands on.
+/// Below the line that the caption stands on. (contract 96)
 double below_line(const PrintWafer& page, double top) {
   return top + print::canvas_of(page.PrinterObj).TextHeight("0");
 }
@@ -34,13 +34,13 @@ void print_centred(PrintWafer& page, double left, double top, double width, doub
 }
 
 /// What six plots share: the orientation box, and beside it the plot in what is left. They differ in when the
-/// frame is drawn.
+/// frame is drawn. (contract 99)
 template <class Render>
 void print_beside_orientation(PrintWafer& page, const wafer& wafer, double left, double top, double& width,
                               double height, View view, Render render) {
   page.DrawFlatNotchBox(left + width - 1215, top + height - 1355, wafer.flat_ratio, view.rot, view.incl);
   const double t = below_line(page, top);
-  width -= beside_plot;
+  width -= beside_plot;  // contract 98
   print_centred(page, left, t, width, height, render);
 }
 

@@ -36,7 +36,7 @@ void PrintWafer::DrawCenterText(std::string& text, double center, double top, do
   PlotCanvas& target = print::canvas_of(PrinterObj);
   std::int16_t w = print::whole_width(target, text);
   while (w > width) {
-    print::lose_both(text);
+    print::lose_both(text);  // contract 108
     w = print::whole_width(target, text);
   }
   const std::int16_t x = to_int16(center - w / 2.0);

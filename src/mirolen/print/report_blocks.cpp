@@ -21,7 +21,7 @@ void print_block(PrintWafer& page, const std::string& caption, double left, doub
 }  // namespace
 
 void PrintWafer::DrawWaferRemarks(const wafer& wafer, double left, double top) {
-  print_block(*this, tr("Wafer Remarks "), left, top, 1875, print::remarks_rows(wafer));
+  print_block(*this, tr("Wafer Remarks "), left, top, 1875, print::remarks_rows(wafer));  // contract 112
 }
 
 void PrintWafer::DrawWaferSize(const wafer& wafer, double left, double top) {
@@ -44,7 +44,7 @@ void PrintWafer::DrawColoredLegend(const wafer& wafer, double left, double top, 
 }
 
 void PrintWafer::DrawSigmaLegend(const wafer& wafer, double& left, double& top, double sigma, bool framed) {
-  if (!framed) return DrawSigmaScale(left, top, sigma, wafer);
+  if (!framed) return DrawSigmaScale(left, top, sigma, wafer);  // contract 98
   DrawFrame(tr("Legend "), left, top, block_width, legend_height);
   double inner_left = left + 210, inner_top = top + 500;
   DrawSigmaScale(inner_left, inner_top, sigma, wafer);

@@ -23,7 +23,7 @@ double hi_lo(const wafer& wafer) {
 }
 
 std::optional<std::string> relative_deviation(const wafer& wafer) {
-  if (wafer.mean > 0) return percent(std::abs(divide(wafer.StdDev, wafer.mean)) * 100);
+  if (wafer.mean > 0) return percent(std::abs(divide(wafer.StdDev, wafer.mean)) * 100);  // contract 27
   return std::nullopt;
 }
 
@@ -43,7 +43,7 @@ ReportRows statistics_rows(const wafer& wafer, const NumberText& number) {
           {600, tr("Maximum:"), is(wafer.maxi)},
           {840, tr("Minimum:"), is(wafer.mini)},
           {1080, tr("Std. Dev:"), is(wafer.StdDev)},
-          {1320, std::nullopt, [&wafer] { return relative_deviation(wafer); }},
+          {1320, std::nullopt, [&wafer] { return relative_deviation(wafer); }},  // contract 102
           {1560, tr("Range:"), [&wafer, number] { return number(checked(wafer.maxi - wafer.mini)); }},
           {1800, tr("Hi/Lo Var:"), [&wafer] { return percent(hi_lo(wafer)); }},
           {2040, tr("Unit:"), [&wafer] { return first_15(wafer.Meas_unit); }}};

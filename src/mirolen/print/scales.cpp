@@ -24,7 +24,7 @@ struct ScaleBoxes {
     left = from_left = divide(from_left, pixel.width);
     top = from_top = divide(from_top, pixel.height);
     // The height counts by the pixels' width and the width by their height: no difference where they are
-    // square.
+    // square. (contract 101)
     pitch = divide(240, pixel.width);
     width = divide(255, pixel.height);
     target.ScaleMode(pixels);
@@ -51,7 +51,7 @@ NumberField number_field(const ScaleEnds& ends) {
   return useExp ? NumberField{9, 2, true} : NumberField{6, decimals, false};
 }
 
-/// The text of a band; the outer ones of a limited scale are open.
+/// The text of a band; the outer ones of a limited scale are open. (contract 100)
 std::string band_text(int band, bool limited, const BandEnds& numbers) {
   if (limited && band == 1) return " > " + numbers.lower(band);
   if (limited && band == bands) return " < " + numbers.upper(band);

@@ -51,7 +51,7 @@ void write_left(PlotCanvas& canvas, std::string& text, double left, double top, 
 }
 
 std::string format_non_zero(double value, std::string& format) {
-  if (value == 0) return format;
+  if (value == 0) return format;  // contract 64
   std::string text;
   do {
     text = StringFormat::format_number(value, format);

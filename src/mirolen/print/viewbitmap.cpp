@@ -74,10 +74,10 @@ void viewbitmap::DrawWaferData() {
 
 void viewbitmap::write_footer(double height, std::int16_t width) {
   flip_bold(picture(), 12);
-  std::string text =
+  std::string text =  // contract 110
       "SONVERA View.OCX " + std::to_string(version().major) + "." + std::to_string(version().minor);
   ViewLeftText(text, 100, to_int16(height - 400), to_int16(width - 200), 0);
-  flip_bold(picture(), 10);
+  flip_bold(picture(), 10);  // contract 109
 }
 
 void viewbitmap::write_block(const std::string& title, std::int16_t left, std::int16_t top,

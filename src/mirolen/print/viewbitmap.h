@@ -14,7 +14,7 @@ namespace mirolen {
 /// Lengths are whole twips of 16 bits: a picture that would become taller than 32,767 is an OverflowError.
 /// Both objects stay the caller's and live as long as they are set here; without them `DrawWaferData` throws
 /// InvalidArgument.
-class viewbitmap {
+class viewbitmap {  // contract 14
  public:
   /// The picture to extend.
   void BitmapObj(PictureBox* picture) { picture_ = picture; }

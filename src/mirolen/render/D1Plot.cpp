@@ -31,7 +31,7 @@ struct ScanLine {
   bool vertical;
   double m = 0, b = 0;
 
-  /// Sites count as on a vertical line only in the middle of the wafer.
+  /// Sites count as on a vertical line only in the middle of the wafer. (contract 60)
   bool passes(double x, double y) const {
     return vertical ? x == 0 : static_cast<float>(y) == to_four_decimals(m * x + b);
   }
@@ -53,7 +53,7 @@ void wafer::D1Plot(PlotCanvas& Plot, std::int16_t resol, std::int16_t phi, bool 
                    std::int16_t ShowDisp) {
   const ChartBox box = chart_box(Plot, left, top, width, height, ShowDisp);
   if (Nop <= 3) return;
-  // The sign is that of the data, also where limits are set.
+  // The sign is that of the data, also where limits are set. (contract 56)
   Low = maximal != minimal ? minimal : checked((mini < 0 ? minimal * 1.1 : minimal * 0.9) - 0.001);
 
   const Chord line = chord(D1Angle, phi, x1, y1, x2, y2);
@@ -64,13 +64,14 @@ void wafer::D1Plot(PlotCanvas& Plot, std::int16_t resol, std::int16_t phi, bool 
   const double dx = divide(line.scanEndX - line.scanStartX, resol);
   const double dy = divide(line.scanEndY - line.scanStartY, resol);
   const double px = divide(box.width, resol);
-  Plot.FillColor(DrawCol);
+  Plot.FillColor(DrawCol);  // contract 87
   double x = line.scanStartX, y = line.scanStartY;
   double z0 = Interpolation(x, y);
   for (int k = 1; k <= resol; ++k) {
     x += dx;
     y += dy;
     const double z1 = Interpolation(x, y);
+    // contract 92
     Plot.Line(line_flags, (k - 1) * px + box.left, scan_height(z0, box.bottom, box.height), k * px + box.left,
               scan_height(z1, box.bottom, box.height), DrawCol);
     z0 = z1;
@@ -81,7 +82,7 @@ void wafer::D1Plot_AdjustLines(PlotCanvas& Plot, double left, double top, double
   const bool picture = Plot.kind() == CanvasKind::picture_box;
   const double step_x = (picture ? width - screen().TwipsPerPixelX : width) / 4;
   const double step_y = (picture ? height - screen().TwipsPerPixelY : height) / 4;
-  auto x = static_cast<float>(left);
+  auto x = static_cast<float>(left);  // contract 93
   for (int i = 0; i < 5; ++i) {
     Plot.Line(line_flags, x, top, x, top + height, QBColor(1));
     x = static_cast<float>(x + step_x);
@@ -103,7 +104,7 @@ void wafer::D1Plot_MarkSites(PlotCanvas& Plot, SiteMarks* picgrid, std::int16_t 
   const ChartBox box = chart_box(Plot, left, top, width, height, ShowDisp);
   if (Nop <= 3) return;
   if (!on_page) picgrid->hide_all();
-  int n = on_page ? 0 : picgrid->count();
+  int n = on_page ? 0 : picgrid->count();  // contract 91
 
   const Chord line = chord(D1Angle, phi, x1, y1, x2, y2);
   const double run = line.scanEndX - line.scanStartX, rise = line.scanEndY - line.scanStartY;
@@ -131,6 +132,7 @@ void wafer::D1Plot_MarkSites(PlotCanvas& Plot, SiteMarks* picgrid, std::int16_t 
     } else {
       if (n > picgrid->count()) picgrid->add();
       using StringFormat::plain_text;
+      // contract 112
       picgrid->show(n - 1, X - half_mark, Y - half_mark,
                     "X = " + plain_text(x) + "  Y= " + plain_text(y) + tr(" FW = ") + plain_text(z));
       ++n;

@@ -172,13 +172,14 @@ void BarPainter::draw_quad(SurfacePoint a, SurfacePoint b, SurfacePoint c, Surfa
   resume([&] { canvas_.Polygon(points); });
 }
 
-double BarPainter::color_of(double z) const {
+double BarPainter::color_of(double z) const {  // contract 73
   const double step = (topLevel_ - bottomLevel_) / 10;
   return band_color(wafer_, band_of(z, topLevel_, step));
 }
 
 }  // namespace
 
+// contract 13
 void wafer::D2BeamPlot(PlotCanvas& Plot, double bx, double by, double fwscal, double alp2, double phi2,
                        double thet2, bool, double left, double top, double width, double height,
                        std::int16_t ShowDispl) {

@@ -81,7 +81,7 @@ void ContourPainter::draw_disc() {
   refresh_screen();
 }
 
-/// On a picture box the part beyond a flat is taken away; on a page the disc stays whole.
+/// On a picture box the part beyond a flat is taken away; on a page the disc stays whole. (contract 77)
 void ContourPainter::draw_flat() {
   if (wafer_.flat_ratio == notch || canvas_.kind() != CanvasKind::picture_box) return;
   const double f = 2 * wafer_.flat_ratio - 1;
@@ -91,7 +91,7 @@ void ContourPainter::draw_flat() {
   canvas_.Line(line_flags, left, y, right, y, QBColor(12));
 }
 
-double ContourPainter::spacing() const {
+double ContourPainter::spacing() const {  // contract 75
   const double mean = std::abs(wafer_.mean), maxi = std::abs(wafer_.maxi), mini = std::abs(wafer_.mini);
   const double spread = wafer_.maxi - wafer_.mini;
   const double s = checked(mean * request_.distance / 100);
@@ -114,6 +114,7 @@ bool ContourPainter::draw_curves() {
   if (canvas_.kind() == CanvasKind::picture_box) canvas_.Refresh();
   canvas_.DrawWidth(1);
   double before = wafer_.mean;
+  // contract 76
   for (double level = wafer_.mean + s; level < wafer_.maximal && level != before; level += s) {
     draw_level(level, wafer_.ColS1);
     refresh_screen();

@@ -49,7 +49,7 @@ class ValuePainter : public SiteTextPainter {
   }
 
   void paint_values() {
-    resume([&] { band_ = band_height(wafer_.maximal, wafer_.minimal); });
+    resume([&] { band_ = band_height(wafer_.maximal, wafer_.minimal); });  // contract 72
     bool useExp = false;
     const std::int16_t w = StringFormat::IntegerWidth(wafer_.maximal, true, useExp);
     const auto decimals = static_cast<std::int16_t>(useExp ? 3 : 7 - w);
@@ -62,7 +62,7 @@ class ValuePainter : public SiteTextPainter {
 
  private:
   double color_of(double z) const {
-    if (wafer_.maximal == wafer_.minimal) return wafer_.col6;
+    if (wafer_.maximal == wafer_.minimal) return wafer_.col6;  // contract 73
     return band_color(wafer_, band_of(norm(z, wafer_.maximal), S_, band_));
   }
 

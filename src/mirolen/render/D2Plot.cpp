@@ -11,7 +11,7 @@ namespace mirolen {
 namespace {
 
 constexpr std::int16_t color_map = 5;
-constexpr double unpainted = 15.0;  // a colour of this very value leaves a cell unpainted
+constexpr double unpainted = 15.0;  // a colour of this very value leaves a cell unpainted (contract 66)
 constexpr double no_data = 0;       // scaled height of a point outside the wafer
 constexpr std::int16_t fewest_cells = 4, most_cells = 100;  // from the centre to the edge
 
@@ -93,7 +93,7 @@ void MapPainter::set_scale_ends() {
 
 void MapPainter::set_mark_sizes() {
   if (canvas_.kind() == CanvasKind::printer) {
-    resume([&] { long_arm_ = to_int16(12 * canvas_.TwipsPerPixelX()); });
+    resume([&] { long_arm_ = to_int16(12 * canvas_.TwipsPerPixelX()); });  // contract 74
     resume([&] { short_arm_ = to_int16(4 * canvas_.TwipsPerPixelY()); });
     resume([&] { black_arm_ = to_int16(6 * canvas_.TwipsPerPixelX()); });
   } else {
@@ -114,7 +114,7 @@ void MapPainter::set_grid() {
   });
   if (n_ < fewest_cells) {
     n_ = fewest_cells;
-    request_.res = wafer_.test_diam / 8;
+    request_.res = wafer_.test_diam / 8;  // contract 69
   }
   if (n_ > most_cells) {
     n_ = most_cells;
@@ -175,7 +175,7 @@ void MapPainter::paint_row(int j) {
 
 void MapPainter::paint_cell(const std::array<Corner, 4>& corners, std::array<double, 4> heights) {
   const auto outside = std::count(heights.begin(), heights.end(), no_data);
-  if (outside == 1 || outside == 2)
+  if (outside == 1 || outside == 2)  // contract 68
     for (std::size_t corner = 0; corner < 4; ++corner)
       if (heights[corner] == no_data) heights[corner] = norm(value_at(corners[corner]));
   const auto [zA, zB, zC, zD] = heights;
@@ -197,7 +197,7 @@ double MapPainter::cell_color(double zc) const {
 }
 
 double MapPainter::band_color_of(double zc) const {
-  if (high_ == low_) return wafer_.col6;
+  if (high_ == low_) return wafer_.col6;  // contract 73
   return band_color(wafer_, band_of(zc, S_, band_));
 }
 

@@ -10,6 +10,7 @@
 namespace mirolen {
 namespace {
 
+// contract 8
 enum Style : std::int16_t { poly_edge = 1, every_edge = 2, white_cells = 3, sigma_colors = 4, bands = 5 };
 
 constexpr double margin = 6;
@@ -81,7 +82,7 @@ void SurfacePainter::set_levels() {
     topLevel_ = ends.high;
     bottomLevel_ = ends.low;
   });
-  // The base follows the data: with limits set, too, the surface stands on the same ground.
+  // The base follows the data: with limits set, too, the surface stands on the same ground. (contract 71)
   resume([&] { wafer_.Low = scale_base(wafer_.maxi, wafer_.mini); });
 }
 
@@ -114,7 +115,7 @@ void SurfacePainter::set_grid(double& res, std::int16_t& n) {
   });
   if (n < fewest_cells) {
     n = fewest_cells;
-    res = wafer_.test_diam / 8;
+    res = wafer_.test_diam / 8;  // contract 69
   }
   if (n > most_cells) {
     n = most_cells;
@@ -181,7 +182,7 @@ void SurfacePainter::paint_row(int j) {
   }
 }
 
-PixelPoint SurfacePainter::pixel(int p, int q, double height) const {
+PixelPoint SurfacePainter::pixel(int p, int q, double height) const {  // contract 70
   const auto& t = turned_;
   const double X = area_.left + area_.width / 2 + scale_ * ((nx_ - p) * t.pxc - (ny_ - q) * t.pys);
   const double Y = area_.top + area_.height -
@@ -209,15 +210,15 @@ Color SurfacePainter::cell_color(const std::array<double, 4>& heights) const {
 
   const auto& [zA, zB, zC, zD] = heights;
   const double zMean = (zA + zB + zC + zD) / 4;
-  const bool touches_outside = zA == 0 || zB == 0 || zC == 0 || zD == 0;
+  const bool touches_outside = zA == 0 || zB == 0 || zC == 0 || zD == 0;  // contract 68
   double color = colored ? band_color_of(zMean) : sigma_color_of(zMean);
   if (zMean == 0 || touches_outside) color = no_data;
-  if (color == no_data) return plain_top_view_ ? first_system_color : QBColor(15);
+  if (color == no_data) return plain_top_view_ ? first_system_color : QBColor(15);  // contract 66
   return to_color(color);
 }
 
 double SurfacePainter::band_color_of(double zMean) const {
-  if (topLevel_ == bottomLevel_) return wafer_.col6;
+  if (topLevel_ == bottomLevel_) return wafer_.col6;  // contract 73
   return band_color(wafer_, band_of(zMean, topLevel_, bandStep_));
 }
 

@@ -7,7 +7,7 @@ namespace mirolen {
 
 void HistogramPainter::draw() {
   prepare_lengths();
-  resume([&] { Plot_.FillColor(QBColor(2)); });
+  resume([&] { Plot_.FillColor(QBColor(2)); });  // contract 87
   resume([&] { Plot_.DrawWidth(1); });
   set_orientation();
   resume([&] { set_class_base(); });
@@ -75,7 +75,7 @@ void HistogramPainter::fit_curve() {
     for (int m = 1; m <= 10; ++m) wafer_.GaussMax += gauss_unit(m * h);
     wafer_.GaussMax = checked((wafer_.GaussMax + wafer_.GaussMax) * h * wafer_.GetNop());
     if (wafer_.maxHauf < wafer_.GaussMax) wafer_.maxHauf = to_int16(wafer_.GaussMax);
-    wafer_.GaussMax = wafer_.GaussMax / 0.4;
+    wafer_.GaussMax = wafer_.GaussMax / 0.4;  // contract 57
   });
 }
 
@@ -102,7 +102,7 @@ void HistogramPainter::draw_curve() {
   double f1 = 0;
   for (double p = 1; p <= last; ++p) {
     resume([&] { f1 = curve(divide(wafer_.maximal - classBase_, r_.breite) * p + classBase_); });
-    if (f0 > 1 || f1 > 1) continue;
+    if (f0 > 1 || f1 > 1) continue;  // contract 88
     resume([&] {
       const SurfacePoint from = point(p - 1, f0), to = point(p, f1);
       Plot_.Line(line_flags, from.x, from.y, to.x, to.y, to_color(wafer_.ColS1));

@@ -66,7 +66,7 @@ class HistogramPainter {
 
   /// The number of the class that a value strictly inside the scale falls into, not yet narrowed.
   double inner_class(double value) const {
-    return round_half_even(divide(value - classBase_, classWidth_) + 0.5);
+    return round_half_even(divide(value - classBase_, classWidth_) + 0.5);  // contract 58
   }
   /// The curve at a value, as a fraction of the count axis.
   double curve(double value) const { return divide(wafer_.GaussMax, wafer_.maxHauf) * wafer_.Gauss(value); }

@@ -6,7 +6,7 @@
 namespace mirolen {
 namespace {
 
-constexpr double fallback_twips_per_pixel = 4.8;
+constexpr double fallback_twips_per_pixel = 4.8;  // contract 67
 
 thread_local std::int64_t failures_of_canvases = 0;
 

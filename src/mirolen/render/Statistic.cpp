@@ -48,7 +48,7 @@ class StandingHistogram : public HistogramPainter {
   bool useExp_ = false;
 };
 
-void StandingHistogram::fall_back() {
+void StandingHistogram::fall_back() {  // contract 67
   for (double* length : {&r_.x0, &r_.y0, &r_.hoehe, &r_.left, &r_.top}) *length /= 4.8;
   r_.laenge = to_int16(r_.laenge / 4.8);
 }
@@ -68,7 +68,7 @@ void StandingHistogram::set_orientation() {
   resume([&] { tickLeft_ = to_int16(r_.x0 - r_.laenge); });
 }
 
-/// Values beyond the plot limits pile up in the two end classes.
+/// Values beyond the plot limits pile up in the two end classes. (contract 59)
 double StandingHistogram::class_of(double value) const {
   if (value <= classBase_) return 1;
   if (value >= wafer_.maximal) return r_.stat_resol;
@@ -80,7 +80,7 @@ void StandingHistogram::draw_count_axis() {
   for (std::int32_t m = 1; m <= most; ++m) {
     const double y = axisBottom_ - m * r_.hoehe / most;
     line(histPic_, tickLeft_, y, r_.x0, y, QBColor(1));
-    // A place is held against a size, so nearly every tick gets its number.
+    // A place is held against a size, so nearly every tick gets its number. (contract 81)
     double half_text = 0;
     resume([&] { half_text = histPic_.TextHeight("0") / 2; });
     if (!(axisBottom_ - r_.hoehe / most > half_text) && m != most) continue;
@@ -97,7 +97,7 @@ void StandingHistogram::draw_class_ticks(double left_side, double right_side) {
     line(histPic_, left_side + r_.left, base + r_.laenge, left_side + r_.left, base, QBColor(1));
     line(histPic_, right_side + r_.left, base + r_.laenge, right_side + r_.left, base, QBColor(1));
   } else {
-    // The first one runs behind the picture of the bars, which hides it.
+    // The first one runs behind the picture of the bars, which hides it. (contract 80)
     line(histPic_, left_side + r_.x0, r_.laenge + r_.x0, left_side + r_.x0, axisBottom_, QBColor(1));
     line(histPic_, right_side + r_.x0, axisBottom_ + r_.laenge + 2, right_side + r_.x0, axisBottom_,
          QBColor(1));
@@ -106,7 +106,7 @@ void StandingHistogram::draw_class_ticks(double left_side, double right_side) {
 
 void StandingHistogram::set_mark_looks() {
   resume([&] { histPic_.CurrentY(Plot_.height() + 30); });
-  resume([&] { histPic_.ForeColor(red); });
+  resume([&] { histPic_.ForeColor(red); });  // contract 87
   if (!r_.on_page) resume([&] { histPic_.Font({"MS Sans Serif"}); });
   resume([&] { histPic_.ForeColor(to_color(wafer_.ColS1)); });
 }
@@ -154,7 +154,7 @@ void StandingHistogram::draw_axis_labels() {
   resume([&] { c = class_width(); });
   resume([&] { w = to_int16(divide(span, r_.stat_resol)); });
   label(left, top, classBase_);
-  // The first boundary behind the last loop, of the curve's points or of the classes.
+  // The first boundary behind the last loop, of the curve's points or of the classes. (contract 82)
   const double q = has_curve() ? Int(r_.breite) + 1 : classes() + 1;
   resume([&] {
     if (!(w > histPic_.TextWidth(text_of(c * q + classBase_)))) return;
@@ -173,7 +173,7 @@ void StandingHistogram::label(double centre, double top, double value) {
   resume([&] { histPic_.Print(text_of(value)); });
 }
 
-void StandingHistogram::draw_limits() {
+void StandingHistogram::draw_limits() {  // contract 85
   if (wafer_.vLcl != wafer_.vUcl) draw_limit_pair(wafer_.vLcl, wafer_.vUcl);
   if (control_limits().ShowCL) draw_limit_pair(control_limits().ClLow, control_limits().ClHigh);
 }
@@ -188,7 +188,7 @@ void StandingHistogram::draw_limit_pair(double low, double high) {
 void StandingHistogram::draw_limit(double limit, const std::string& name) {
   double px = 0;
   resume([&] { px = along_classes(limit); });
-  line(Plot_, r_.left + px, r_.top, r_.left + px, r_.hoehe, QBColor(1));
+  line(Plot_, r_.left + px, r_.top, r_.left + px, r_.hoehe, QBColor(1));  // contract 83
   write_below(px, name);
 }
 

@@ -15,7 +15,7 @@ constexpr Color limit_line_color = 0x800000;
 /// A value in a format that grows leading zeros while the text reads as zero; 0 shows the format itself.
 std::string format_scaled(double value, std::string fmt) {
   constexpr std::size_t most_places = 16;
-  if (value == 0) return fmt;
+  if (value == 0) return fmt;  // contract 64
   if (std::abs(value) < 0.00001 || value > 99999.99) return StringFormat::format_number(value, "0.00E+0");
   std::string text = StringFormat::format_number(value, fmt);
   while (text.find_first_of("123456789") == std::string::npos && fmt.size() < most_places) {
@@ -55,13 +55,13 @@ class LyingHistogram : public HistogramPainter {
   bool from_right_;
 };
 
-void LyingHistogram::fall_back() {
+void LyingHistogram::fall_back() {  // contract 67
   std::swap(r_.breite, r_.hoehe);
   for (double* length : {&r_.x0, &r_.y0, &r_.breite, &r_.hoehe, &r_.left, &r_.top}) *length /= 4.8;
   r_.laenge = to_int16(r_.laenge / 4.8);
 }
 
-/// A value strictly beyond the limits is counted nowhere.
+/// A value strictly beyond the limits is counted nowhere. (contract 59)
 double LyingHistogram::class_of(double value) const {
   if (value == classBase_) return 1;
   if (value == wafer_.maximal) return r_.stat_resol;
@@ -95,7 +95,7 @@ void LyingHistogram::draw_count_axis() {
 }
 
 void LyingHistogram::set_mark_looks() {
-  resume([&] { histPic_.ForeColor(red); });
+  resume([&] { histPic_.ForeColor(red); });  // contract 87
   resume([&] { histPic_.Font({"Symbol"}); });
   resume([&] { histPic_.ForeColor(to_color(wafer_.ColS1)); });
 }
@@ -153,7 +153,7 @@ void LyingHistogram::draw_axis_labels() {
   resume([&] { histPic_.Print(format_scaled(most, "0")); });
 }
 
-void LyingHistogram::draw_limits() {
+void LyingHistogram::draw_limits() {  // contract 85
   const ControlLimits& limits = control_limits();
   if (!limits.ShowCL) return;
   resume([&] { histPic_.ForeColor(blue); });
@@ -165,7 +165,7 @@ void LyingHistogram::draw_limit(double limit, const std::string& name) {
   double py = 0;
   resume([&] { py = along_classes(limit); });
   line(Plot_, r_.left + r_.hoehe, y_of(py), r_.left, y_of(py), limit_line_color);
-  write_beside(py, name, "LCL");
+  write_beside(py, name, "LCL");  // contract 84
 }
 
 }  // namespace

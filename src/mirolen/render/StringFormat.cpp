@@ -155,7 +155,7 @@ std::string plain(double value) {
   return text;
 }
 
-/// Length of a number's text with a place for the sign and no zero before the separator.
+/// Length of a number's text with a place for the sign and no zero before the separator. (contract 61)
 std::int16_t text_length(double value) {
   std::string text = plain(std::abs(value));
   if (text.starts_with("0.")) text.erase(0, 1);
@@ -171,6 +171,7 @@ std::string with_decimals(double value, std::int16_t decimals, std::size_t zeros
   text = text.substr(0, e) + std::string(zeros, '0');
 
   const std::size_t point = text.find('.');
+  // contract 63
   text.resize(std::min(text.size(), decimals < 1 ? point : point + 1 + static_cast<std::size_t>(decimals)));
   return text + exponent;
 }
@@ -199,7 +200,7 @@ std::int16_t IntegerWidth(double value, bool hasSign, bool& useExp) {
 
 std::int16_t DecimalsFor(double value, std::int16_t maxWidth, bool& useExp) {
   const int m = value < 0 ? maxWidth - 1 : maxWidth;
-  useExp = !(std::abs(value) <= 100000 && (std::abs(value) >= 0.0001 || value <= 0));
+  useExp = !(std::abs(value) <= 100000 && (std::abs(value) >= 0.0001 || value <= 0));  // contract 62
   if (useExp) return static_cast<std::int16_t>(m >= 9 ? m - 7 : 2);
 
   const double whole = round_half_even(value);

@@ -51,7 +51,7 @@ void wafer::draw_indicator(IndicatorLine& Iline, IndicatorMark& plus, std::int16
                            double x1, double y1, double x2, double y2, double x3, double y3,
                            PlotCanvas& Plot) {
   if (WafDiam == 0) {
-    WafDiam = 200;
+    WafDiam = 200;  // contract 79
     WaferOrigRad = WafDiam / 2;
   }
   const Miniature mini_wafer(WafDiam);

@@ -32,7 +32,7 @@ LegendFields legend_fields(const ScaleEnds& ends) {
   return {caption, tool_tip};
 }
 
-/// The text of a row; under user limits the end rows are open.
+/// The text of a row; under user limits the end rows are open. (contract 100)
 std::string row_text(int row, bool limited, const BandEnds& numbers) {
   if (limited && row == 1) return " > " + numbers.lower(row);
   if (limited && row == rows) return " < " + numbers.upper(row);

@@ -42,6 +42,7 @@ double arc_angle(double degrees, double Pi) {
 
 }  // namespace
 
+// contract 13
 void wafer::FlatNotchShow(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, double& y0, double,
                           double phi, double thet) const {
   x0 = FNPic.ScaleWidth() / 2;
@@ -60,7 +61,7 @@ void wafer::FlatNotchShow(CaptionLabel* FNLabel, PlotCanvas& FNPic, double& x0, 
     if (FNLabel) FNLabel->caption(tr("Notch"));
     const SurfacePoint A = P(phi + 10, R), B = P(phi - 10, R), C = P(phi, 0.8 * R), D = P(phi, 1.05 * R);
     cut_out(FNPic, std::array{A, C, B, D, A});
-    draw_line(FNPic, A, C, QBColor(12));
+    draw_line(FNPic, A, C, QBColor(12));  // contract 78
   } else {
     if (FNLabel) FNLabel->caption(tr("Flat"));
     const double R2 = R + R / 3;
