@@ -102,8 +102,8 @@ class PrintWafer {
                          const std::string& caption);
 
   // ---- Contour plots ----
-  /// With the interval above the orientation box. An Interval that is not in percent counts by the mean.
-  /// @throws DivisionByZero for such an interval and a mean of 0.
+  /// With the interval above the orientation box. An Interval that is not in percent counts by the mean, or
+  /// by what stands in for a mean of 0.
   void Print_Contour(wafer& wafer, double left, double top, double width, double height, double Interval,
                      bool IntervalInPercent, const std::string& MeasurementUnit, std::int16_t marksites,
                      std::int16_t Resolution, std::int16_t PlotColored, const std::string& caption,
@@ -114,7 +114,7 @@ class PrintWafer {
                          bool IntervalInPercent, std::int16_t marksites, std::int16_t Resolution,
                          std::int16_t PlotColored, const std::string& caption, std::string& text,
                          bool framed);
-  /// The interval as a line of text. @throws DivisionByZero as `Print_Contour`.
+  /// The interval as a line of text.
   // contract 14
   void Print_Contour_Legend(const wafer& wafer, double left, double top, double Interval, bool percent,
                             const std::string& unit);
