@@ -14,8 +14,9 @@ namespace {
 enum Style : std::int16_t { poly_edge = 1, every_edge = 2, white_cells = 3, sigma_colors = 4, bands = 5 };
 
 constexpr double margin = 6;
-constexpr std::int16_t fewest_cells = 6, most_cells = 500;  // from the centre to the edge of the grid
-constexpr double no_data = 15.0;                            // marks a cell without data; no colour
+// From the centre to the edge of the grid.
+constexpr std::int16_t fewest_surface_cells = 6, most_surface_cells = 500;
+constexpr double no_color = 15.0;  // of a cell without data
 constexpr Color first_system_color = 0x80000000;
 
 double rotate_x(double a, double b, double c, double d) { return a * c + b * d; }
@@ -111,14 +112,14 @@ void SurfacePainter::set_grid(double& res, std::int16_t& n) {
   resume([&] {
     if (res == 0) raise_division_by_zero();
     // More cells than a number counts are too many all the same.
-    n = to_int16(std::min(wafer_.test_diam / 2 / res + 2, most_cells + 1.0));
+    n = to_int16(std::min(wafer_.test_diam / 2 / res + 2, most_surface_cells + 1.0));
   });
-  if (n < fewest_cells) {
-    n = fewest_cells;
+  if (n < fewest_surface_cells) {
+    n = fewest_surface_cells;
     res = wafer_.test_diam / 8;  // contract 69
   }
-  if (n > most_cells) {
-    n = most_cells;
+  if (n > most_surface_cells) {
+    n = most_surface_cells;
     res = wafer_.test_diam / 1000;
   }
 }
@@ -212,8 +213,8 @@ Color SurfacePainter::cell_color(const std::array<double, 4>& heights) const {
   const double zMean = (zA + zB + zC + zD) / 4;
   const bool touches_outside = zA == 0 || zB == 0 || zC == 0 || zD == 0;  // contract 68
   double color = colored ? band_color_of(zMean) : sigma_color_of(zMean);
-  if (zMean == 0 || touches_outside) color = no_data;
-  if (color == no_data) return plain_top_view_ ? first_system_color : QBColor(15);  // contract 66
+  if (zMean == 0 || touches_outside) color = no_color;
+  if (color == no_color) return plain_top_view_ ? first_system_color : QBColor(15);  // contract 66
   return to_color(color);
 }
 
